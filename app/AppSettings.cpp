@@ -1,0 +1,55 @@
+#include "app/AppSettings.h"
+
+#include "app/DrawDatabase.h"
+#include "app/FieldReader.h"
+#include "app/TextPictures.h"
+
+namespace {
+
+bool ReadInteger(FieldReader& fields, qint16& value)
+{
+    const std::optional<Field> field = fields.Next();
+    const std::optional<double> number = field ? FieldNumber(*field) : std::nullopt;
+    const std::optional<qint16> fits = number ? ToInt16(*number) : std::nullopt;
+    value = fits.value_or(value);
+    return fits.has_value();
+}
+
+bool ReadText(FieldReader& fields, QString& value)
+{
+    const std::optional<Field> field = fields.Next();
+    if (field) {
+        value = fields.Text(*field);
+    }
+    return field.has_value();
+}
+
+qint16 WithinOr(qint16 value, int highest, qint16 fallback)
+{
+    return value >= 1 && value <= highest ? value : fallback;
+}
+
+} // namespace
+
+bool ReadSettings(const QByteArray& bytes, AppSettings& settings)
+{
+    const AppSettings defaults;
+    FieldReader fields(bytes);
+    const bool complete =
+        ReadInteger(fields, settings.printerFont) && ReadInteger(fields, settings.defaultPicks) &&
+        ReadInteger(fields, settings.defaultHighest) && ReadInteger(fields, settings.entryForms) &&
+        ReadText(fields, settings.currencySymbol) && ReadText(fields, settings.userName);
+    if (!complete) {
+        settings.defaultPicks = defaults.defaultPicks;
+        settings.defaultHighest = defaults.defaultHighest;
+        settings.entryForms = defaults.entryForms;
+    }
+    constexpr int kMostForms = 10;
+    settings.defaultPicks = WithinOr(settings.defaultPicks, kMostPicks, defaults.defaultPicks);
+    settings.defaultHighest = WithinOr(settings.defaultHighest, kMostNumbers, defaults.defaultHighest);
+    settings.entryForms = WithinOr(settings.entryForms, kMostForms, defaults.entryForms);
+    if (settings.currencySymbol.isEmpty()) {
+        settings.currencySymbol = defaults.currencySymbol;
+    }
+    return complete;
+}

@@ -1,0 +1,64 @@
+#include "app/FieldWriter.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+
+bool FitsFileText(QStringView text)
+{
+    return std::all_of(text.cbegin(), text.cend(), [](QChar ch) { return ch.unicode() <= 0xFF; });
+}
+
+void FieldWriter::Begin()
+{
+    if (m_lineBegun) {
+        m_bytes += ',';
+    }
+    m_lineBegun = true;
+}
+
+void FieldWriter::Number(double value)
+{
+    Begin();
+    constexpr double kLargestPlain = 1e15; // whole numbers below it are written without an exponent
+    if (value == std::trunc(value) && std::abs(value) < kLargestPlain) {
+        m_bytes += QByteArray::number(static_cast<qlonglong>(value));
+    } else {
+        m_bytes += QByteArray::number(value, 'g', QLocale::FloatingPointShortest);
+    }
+}
+
+void FieldWriter::Text(const QString& text)
+{
+    Begin();
+    m_everythingHadAPlace = m_everythingHadAPlace && FitsFileText(text);
+    m_bytes += '"' + text.toLatin1() + '"';
+}
+
+void FieldWriter::Date(QDate date)
+{
+    Begin();
+    m_bytes += '#' + date.toString(Qt::ISODate).toLatin1() + '#';
+}
+
+void FieldWriter::AsHeld(const Cell& cell)
+{
+    if (const int* whole = std::get_if<int>(&cell)) {
+        Number(*whole);
+    } else if (const double* real = std::get_if<double>(&cell)) {
+        Number(*real);
+    } else if (const QString* text = std::get_if<QString>(&cell)) {
+        Text(*text);
+    } else if (const QDate* date = std::get_if<QDate>(&cell)) {
+        Date(*date);
+    } else {
+        Begin();
+    }
+}
+
+void FieldWriter::EndLine()
+{
+    m_bytes += "\r\n";
+    m_lineBegun = false;
+}

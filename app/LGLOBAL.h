@@ -1,0 +1,78 @@
+#pragma once
+
+#include "app/AppSettings.h"
+#include "app/DrawDatabase.h"
+#include "database/NumberStatistics.h"
+
+#include <QDate>
+#include <QLocale>
+#include <QString>
+
+#include <array>
+#include <functional>
+
+/// What the file dialog is asked for, and what it answers when the user cancels.
+enum FileDialogMode : qint16 {
+    kFileDialogIdle = 0,
+    kOpenLotteryFile = 1,
+    kSaveLotteryFile = 2,
+    kOpenInvestmentFile = 3,
+    kSaveInvestmentFile = 4,
+    kFileDialogCancelled = 9,
+};
+
+/// What the editor's 'New' row is for.
+enum class EditMode : qint16 { Normal = 0, Correct = 1, Insert = 2, Delete = 3, Sort = 4 };
+
+/// The one state that all forms share. main.cpp makes it, every form gets it by reference; tests make their
+/// own.
+struct LGLOBAL {
+    DrawDatabase database;
+    AppSettings settings;
+
+    // Messages, questions and input boxes
+    qint16 messageNumber = 0; ///< the message that AMsgbox shows next
+    QString messageArg1;
+    QString messageArg2;
+    QString messageReason;     ///< a sentence shown below the message's own text, e.g. the system's reason
+    qint16 questionNumber = 0; ///< in: the question of AllYesNo; out: kAnsweredYes, or 0 for No
+    qint16 entryEdited = 0;    ///< 1 once the user clicked into or typed in the input box that has the focus
+    QString currentEntryText;  ///< text of the money box that has the focus
+
+    // Files
+    qint16 fileDialogMode = kFileDialogIdle;
+    QString chosenPath;         ///< full path picked in the file dialog; "" when idle
+    QString dialogFolder;       ///< folder the file dialog was last in; "" for the current folder
+    QString investmentFileName; ///< name of the investment statement last opened or saved
+
+    // Places and pages
+    qint32 layoutSize = 6810; ///< 8670 when the main window is taller than 8,500 twips, else 6810
+    qint16 linesPerPage = 53; ///< 53, or 56 while the 11-point printer font is chosen
+    qint16 graphCaller = 0;   ///< 1 = main menu, 2 = database editor
+    float extractLow = 0;     ///< record-number bounds of the extract
+    float extractHigh = 0;
+
+    // Number statistics
+    CountMode WhichCnt = CountMode::TimesDrawn;
+    qint16 sortMode = 0;       ///< kNumberOrder leaves the sorted table in number order
+    NumberTable NumberStats{}; ///< unsorted: row n is number n
+    NumberTable sortedNumberStats{};
+    std::array<QString, 4>
+        topNumbersText;                 ///< line 1 the heading of the top numbers, line 2 the numbers alone
+    std::array<QString, 4> scratchText; ///< four more lines, free for any form
+
+    // The editor and its record dialog
+    EditMode editMode = EditMode::Normal;
+    qint16 SelectedRecord = 0; ///< record chosen in the record dialog, 0 = none
+    qint16 ClickedRecord = 0;  ///< record of the grid row last clicked, 0 = none
+
+    // What the world outside says
+    QLocale locale;                                     ///< of dates on screen and paper
+    std::function<QDate()> today = &QDate::currentDate; ///< tests set their own day
+};
+
+/// What questionNumber holds after Yes.
+inline constexpr qint16 kAnsweredYes = 6;
+
+/// Working forms take their large placement when layoutSize is not below this.
+inline constexpr qint32 kLargeLayoutFrom = 8501;

@@ -1,0 +1,205 @@
+#include "app/LotteryFile.h"
+
+#include "app/FieldReader.h"
+#include "app/FieldWriter.h"
+#include "app/TextPictures.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kDrawDayLines = 10;
+constexpr int kLastRow = kRecordRows - 1;
+constexpr std::size_t kLastDrawn = kMostPicks - 1;
+
+/// Reads one file front to back; the first fault ends it.
+class LotteryFileReader
+{
+public:
+    LotteryFileReader(const QByteArray& bytes, LotteryLayout layout, const QLocale& locale)
+        : m_fields(bytes), m_layout(layout), m_locale(locale)
+    {}
+
+    LotteryReading Read()
+    {
+        const bool whole = ReadHeader() && ReadDrawDays() && ReadRecords();
+        if (!whole) {
+            return {std::nullopt, m_reason};
+        }
+        return {std::move(m_content), {}};
+    }
+
+private:
+    bool Refuse(const QString& reason)
+    {
+        m_reason = reason;
+        return false;
+    }
+
+    bool RefuseShortFile() { return Refuse(u"The file ends before everything it announces."_s); }
+
+    bool ReadHeaderNumber(qint16& value, const QString& name)
+    {
+        const std::optional<Field> field = m_fields.Next();
+        if (!field) {
+            return RefuseShortFile();
+        }
+        const std::optional<double> number = FieldNumber(*field);
+        const std::optional<qint16> fits = number ? ToInt16(*number) : std::nullopt;
+        if (!fits) {
+            return Refuse(name + u" in the first line is not a number that a lottery file can hold."_s);
+        }
+        value = *fits;
+        return true;
+    }
+
+    bool ReadHeader()
+    {
+        if (!ReadHeaderNumber(m_content.count, u"The number of records"_s) ||
+            !ReadHeaderNumber(m_content.columns, u"The number of columns"_s) ||
+            !ReadHeaderNumber(m_content.highest, u"The highest number"_s)) {
+            return false;
+        }
+        const std::optional<Field> title = m_fields.Next();
+        if (!title) {
+            return RefuseShortFile();
+        }
+        m_content.title = m_fields.Text(*title);
+        if (m_content.count < 0 || m_content.count > kLastRow) {
+            return Refuse(
+                u"The file announces %1 records; a database holds 0 to 2000."_s.arg(m_content.count));
+        }
+        return true;
+    }
+
+    bool ReadDrawDays()
+    {
+        if (m_layout == LotteryLayout::Older) {
+            // The header's last three values meant something once. Only Sunday is marked.
+            for (int i = 0; i < 3; ++i) {
+                if (!m_fields.Next()) {
+                    return RefuseShortFile();
+                }
+            }
+            for (std::size_t day = 1; day <= kDrawDayLines; ++day) {
+                m_content.drawDays.at(day).weekday = day == 1 ? 1 : 0;
+            }
+            return true;
+        }
+        for (std::size_t day = 1; day <= kDrawDayLines; ++day) {
+            DrawDay& row = m_content.drawDays.at(day);
+            if (!ReadCell(row.carried) || !ReadCell(row.weekday)) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    bool ReadCell(Cell& cell)
+    {
+        const std::optional<Field> field = m_fields.Next();
+        if (!field) {
+            return RefuseShortFile();
+        }
+        cell = m_fields.AsCell(*field);
+        return true;
+    }
+
+    bool ReadRecords()
+    {
+        m_content.records.reserve(static_cast<std::size_t>(m_content.count));
+        for (int row = 1; row <= m_content.count; ++row) {
+            if (!ReadRecord(row)) {
+                return false;
+            }
+        }
+        // "42" cut to "4" at the end of a file looks whole; a 0 there cannot have been longer.
+        const bool lastNumberMayBeCut = m_content.count > 0 && m_fields.EndedByFileEnd() &&
+                                        CellNumber(m_content.records.back().drawn.at(kLastDrawn)) != 0;
+        return lastNumberMayBeCut ? Refuse(u"The last line is not finished, so its last number may be cut."_s)
+                                  : true;
+    }
+
+    bool ReadRecord(int row)
+    {
+        DrawRecord& record = m_content.records.emplace_back();
+        if (!ReadCell(record.number) || !ReadCell(record.date)) {
+            return false;
+        }
+        for (Cell& drawn : record.drawn) {
+            if (!ReadCell(drawn)) {
+                return false;
+            }
+        }
+        const double number = CellNumber(record.number);
+        if (number < 0 || number > kLastRow) {
+            return Refuse(u"Record %1 carries a number that no database has."_s.arg(row));
+        }
+        if (m_layout == LotteryLayout::Older && !CellDate(record.date, m_locale)) {
+            return Refuse(u"Record %1 has no date."_s.arg(row));
+        }
+        record.number = row; // every other place of the program relies on number and row being the same
+        return true;
+    }
+
+    FieldReader m_fields;
+    LotteryLayout m_layout;
+    const QLocale& m_locale;
+    LotteryFileContent m_content;
+    QString m_reason;
+};
+
+} // namespace
+
+LotteryReading ReadLotteryFile(const QByteArray& bytes, LotteryLayout layout, const QLocale& locale)
+{
+    return LotteryFileReader(bytes, layout, locale).Read();
+}
+
+Outcome WriteLotteryFile(const DrawDatabase& database, const QLocale& locale, QByteArray& bytes)
+{
+    FieldWriter writer;
+    writer.Number(database.count);
+    writer.Number(database.columns);
+    writer.Number(database.highest);
+    writer.Text(database.title);
+    writer.EndLine();
+    for (std::size_t day = 1; day <= kDrawDayLines; ++day) {
+        writer.AsHeld(database.drawDays.at(day).carried);
+        writer.Number(CellNumber(database.drawDays.at(day).weekday));
+        writer.EndLine();
+    }
+    for (int row = 1; row <= database.count; ++row) {
+        const DrawRecord& record = database.records.at(static_cast<std::size_t>(row));
+        const std::optional<QDate> date = CellDate(record.date, locale);
+        if (!date) {
+            return Outcome::Failure(u"Record %1 has no date that could be written: \"%2\"."_s.arg(row).arg(
+                CellText(record.date)));
+        }
+        writer.AsHeld(record.number);
+        writer.Date(*date);
+        for (const Cell& drawn : record.drawn) {
+            writer.Number(CellNumber(drawn));
+        }
+        writer.EndLine();
+    }
+    if (!writer.EverythingHadAPlace()) {
+        return Outcome::Failure(u"The title has a character that a lottery file cannot hold."_s);
+    }
+    bytes = writer.Bytes();
+    return {};
+}
+
+void ReplaceDatabase(DrawDatabase& database, LotteryFileContent&& content, const QString& fileName)
+{
+    database.Empty();
+    database.count = content.count;
+    database.columns = content.columns;
+    database.highest = content.highest;
+    database.title = std::move(content.title);
+    database.drawDays = std::move(content.drawDays);
+    database.fileName = fileName;
+    std::move(content.records.begin(), content.records.end(), database.records.begin() + 1);
+}

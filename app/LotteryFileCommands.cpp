@@ -1,0 +1,95 @@
+#include "app/LotteryFileCommands.h"
+
+#include "app/LotteryFile.h"
+#include "app/SafeFile.h"
+
+#include <QFileInfo>
+
+namespace {
+
+void RefuseFile(LGLOBAL& shared, Prompts& prompts, const QString& reason)
+{
+    constexpr int kNotFoundOrWrongFormat = 13;
+    prompts.SetBusyPointer(false);
+    Show(shared, prompts, {.number = kNotFoundOrWrongFormat, .reason = reason});
+    shared.database.Empty();
+    shared.database.modified = 0;
+}
+
+Outcome WriteDatabase(const LGLOBAL& shared, const QString& path)
+{
+    QByteArray bytes;
+    const Outcome written = WriteLotteryFile(shared.database, shared.locale, bytes);
+    return written.ok ? SaveFileBytes(path, bytes) : written;
+}
+
+void SaveUnderChosenName(LGLOBAL& shared, Prompts& prompts)
+{
+    constexpr int kNoRecords = 15;
+    constexpr int kBadFileName = 14;
+    if (shared.database.count == 0) {
+        Show(shared, prompts, {.number = kNoRecords});
+        return;
+    }
+    shared.fileDialogMode = kSaveLotteryFile;
+    prompts.FileDirectory();
+    if (shared.fileDialogMode == kFileDialogCancelled) {
+        return;
+    }
+    const Outcome saved = WriteDatabase(shared, shared.chosenPath);
+    if (saved.ok) {
+        shared.database.fileName = QFileInfo(shared.chosenPath).fileName();
+    } else {
+        Show(shared, prompts, {.number = kBadFileName, .reason = saved.reason});
+    }
+}
+
+void EndFileDialog(LGLOBAL& shared)
+{
+    shared.fileDialogMode = kFileDialogIdle;
+    shared.chosenPath.clear();
+}
+
+} // namespace
+
+void OpenLotteryFile(LGLOBAL& shared, Prompts& prompts, const QString& path)
+{
+    constexpr int kOldFormat = 16;
+    prompts.SetBusyPointer(true);
+    QByteArray bytes;
+    if (const Outcome read = ReadFileBytes(path, bytes); !read.ok) {
+        RefuseFile(shared, prompts, read.reason);
+        return;
+    }
+    LotteryReading reading = ReadLotteryFile(bytes, LotteryLayout::Current, shared.locale);
+    if (!reading.content) {
+        // The older layout has no mark of its own: it shows by failing to be the current one.
+        const QString asCurrent = reading.reason;
+        prompts.SetBusyPointer(false);
+        Show(shared, prompts, {.number = kOldFormat});
+        reading = ReadLotteryFile(bytes, LotteryLayout::Older, shared.locale);
+        if (!reading.content) {
+            RefuseFile(shared, prompts, asCurrent);
+            return;
+        }
+        prompts.SetBusyPointer(true);
+    }
+    ReplaceDatabase(shared.database, std::move(*reading.content), QFileInfo(path).fileName());
+}
+
+void LoadFile(LGLOBAL& shared, Prompts& prompts)
+{
+    shared.fileDialogMode = kOpenLotteryFile;
+    prompts.FileDirectory();
+    if (shared.fileDialogMode != kFileDialogCancelled) {
+        OpenLotteryFile(shared, prompts, shared.chosenPath);
+    }
+    EndFileDialog(shared);
+}
+
+void SaveFile(LGLOBAL& shared, Prompts& prompts)
+{
+    SaveUnderChosenName(shared, prompts);
+    shared.database.modified = 0;
+    EndFileDialog(shared);
+}

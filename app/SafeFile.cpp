@@ -1,0 +1,165 @@
+#include "app/SafeFile.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSaveFile>
+
+#include <cerrno>
+
+#ifdef Q_OS_WIN
+#include <io.h>
+#else
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString SystemReason(int error)
+{
+    return qt_error_string(error);
+}
+
+/// Forces what was written to an open file onto the disk.
+Outcome ForceToDisk(const QSaveFile& file)
+{
+#if defined(Q_OS_WIN)
+    const int result = _commit(file.handle());
+#elif defined(Q_OS_MACOS)
+    const int result = fcntl(file.handle(), F_FULLFSYNC); // fsync alone leaves the data in the drive's cache
+#else
+    const int result = fsync(file.handle());
+#endif
+    return result == 0 ? Outcome{} : Outcome::Failure(SystemReason(errno));
+}
+
+/// Forces the folder's new entry onto the disk, without which a power cut brings the old file back.
+Outcome ForceFolderToDisk(const QString& folder)
+{
+#ifdef Q_OS_WIN
+    Q_UNUSED(folder) // the file system's journal does it
+    return {};
+#else
+    const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) {
+        // A folder may be written but not listed. The file is in its place; nothing more can be done for it.
+        return errno == EACCES ? Outcome{} : Outcome::Failure(SystemReason(errno));
+    }
+    const int result = fsync(handle);
+    const int error = errno;
+    close(handle);
+    const bool cannotBeForced =
+        error == EINVAL || error == ENOTSUP; // some network folders know no such thing
+    return result == 0 || cannotBeForced ? Outcome{} : Outcome::Failure(SystemReason(error));
+#endif
+}
+
+/// True for the endings that a temporary name gets and a person never writes: "backup", "BACKUP" and "Backup"
+/// may be somebody's copy, "bAcKup" is ours.
+bool IsNobodysEnding(QStringView ending)
+{
+    const QStringView rest = ending.sliced(1);
+    const QString asText = rest.toString();
+    return asText != asText.toLower() && ending.toString() != ending.toString().toUpper();
+}
+
+/// Removes what an interrupted save left beside the file: NAME.XXXXXX, six letters, an hour old.
+void TidyLeftovers(const QFileInfo& target)
+{
+    static const QRegularExpression leftover(u"\\.([A-Za-z]{6})$"_s);
+    const QDateTime anHourAgo = QDateTime::currentDateTimeUtc().addSecs(-3600);
+    const QFileInfoList beside = target.dir().entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    for (const QFileInfo& file : beside) {
+        const QString name = file.fileName();
+        const QRegularExpressionMatch match = leftover.match(name);
+        if (match.hasMatch() && name.chopped(match.capturedLength()) == target.fileName() &&
+            IsNobodysEnding(match.capturedView(1)) && file.lastModified().toUTC() < anHourAgo) {
+            QFile::remove(file.filePath());
+        }
+    }
+}
+
+Outcome WriteAndCommit(const QString& path, const QByteArray& bytes)
+{
+    // setDirectWriteFallback stays off: it would write over the old file in place.
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        return Outcome::Failure(file.errorString());
+    }
+    // commit() alone looks only at the write error and forgets what its own flush finds, so that a full disk
+    // would put an empty file in the place of the old one. Every step is therefore made and asked here.
+    if (file.write(bytes) != bytes.size() || !file.flush() || file.error() != QFileDevice::NoError) {
+        const QString reason = file.errorString(); // before commit, which replaces it
+        file.cancelWriting();
+        file.commit();
+        return Outcome::Failure(reason);
+    }
+    if (const Outcome forced = ForceToDisk(file); !forced.ok) {
+        file.cancelWriting();
+        file.commit();
+        return forced;
+    }
+    if (!file.commit()) {
+        return Outcome::Failure(file.errorString());
+    }
+    return {};
+}
+
+} // namespace
+
+Outcome ReadFileBytes(const QString& path, QByteArray& bytes)
+{
+    const QFileInfo info(path);
+    if (!info.exists()) {
+        return Outcome::Failure(SystemReason(ENOENT));
+    }
+    if (!info.isFile()) {
+        return Outcome::Failure(u"\"%1\" is not a file."_s.arg(info.fileName()));
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return Outcome::Failure(file.errorString());
+    }
+    QByteArray read = file.read(kLargestFile + 1);
+    if (file.error() != QFileDevice::NoError) {
+        return Outcome::Failure(file.errorString());
+    }
+    if (read.size() > kLargestFile) {
+        return Outcome::Failure(u"The file is far larger than any of this program's."_s);
+    }
+    bytes = std::move(read);
+    return {};
+}
+
+Outcome SaveFileBytes(const QString& path, const QByteArray& bytes)
+{
+    const QFileInfo target(path);
+    if (target.fileName().isEmpty()) {
+        return Outcome::Failure(u"There is no file name."_s);
+    }
+    if (target.exists() && !target.isFile()) {
+        return Outcome::Failure(u"\"%1\" is not a file that can be replaced."_s.arg(target.fileName()));
+    }
+    if (const Outcome written = WriteAndCommit(path, bytes); !written.ok) {
+        return written;
+    }
+    // Of a link, the file it leads to was replaced.
+    const QFileInfo placed(QFileInfo(path).canonicalFilePath());
+    if (const Outcome forced = ForceFolderToDisk(placed.absolutePath()); !forced.ok) {
+        return forced;
+    }
+    QByteArray readBack;
+    if (const Outcome read = ReadFileBytes(path, readBack); !read.ok) {
+        return read;
+    }
+    if (readBack != bytes) {
+        return Outcome::Failure(u"What was read back from the disk is not what was written."_s);
+    }
+    TidyLeftovers(placed);
+    return {};
+}

@@ -1,0 +1,197 @@
+#include "app/TextPictures.h"
+
+#include <QByteArray>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+struct Picture {
+    qsizetype leastWhole = 0; // digits always written before the point
+    qsizetype leastDecimals = 0;
+    qsizetype decimals = 0;
+    bool point = false;
+    bool grouped = false;
+};
+
+Picture ReadPicture(QStringView text)
+{
+    Picture picture;
+    for (const QChar ch : text) {
+        if (ch == u'.') {
+            picture.point = true;
+        } else if (ch == u',') {
+            picture.grouped = true;
+        } else if (picture.point) {
+            ++picture.decimals;
+            if (ch == u'0') {
+                picture.leastDecimals = picture.decimals;
+            }
+        } else if (ch == u'0' || picture.leastWhole > 0) {
+            ++picture.leastWhole;
+        }
+    }
+    return picture;
+}
+
+/// The digits of a rounded decimal number: digits[0] has the weight 10^(wholeDigits - 1).
+struct Digits {
+    QByteArray digits;
+    qsizetype wholeDigits = 0;
+};
+
+constexpr int kCertainDigits = 15;
+
+/// Rounds to @p decimals places on the decimal digits, so that 2.675 is a half although its binary
+/// neighbour lies below it.
+Digits RoundHalfAway(double magnitude, qsizetype decimals)
+{
+    const QByteArray scientific = QByteArray::number(magnitude, 'e', kCertainDigits - 1);
+    const qsizetype mark = scientific.indexOf('e');
+    Digits result;
+    result.digits = scientific.left(mark);
+    result.digits.remove(1, 1); // the point behind the first digit
+    result.wholeDigits = scientific.mid(mark + 1).toInt() + 1;
+
+    if (result.wholeDigits <= 0) {
+        result.digits.prepend(QByteArray(1 - result.wholeDigits, '0'));
+        result.wholeDigits = 1;
+    }
+    const qsizetype kept = result.wholeDigits + decimals;
+    if (kept >= result.digits.size()) {
+        result.digits.append(QByteArray(kept - result.digits.size(), '0'));
+        return result;
+    }
+    const bool up = result.digits.at(kept) >= '5';
+    result.digits.truncate(kept);
+    if (up) {
+        qsizetype place = kept - 1;
+        while (place >= 0 && result.digits.at(place) == '9') {
+            result.digits[place--] = '0';
+        }
+        if (place >= 0) {
+            ++result.digits[place];
+        } else {
+            result.digits.prepend('1');
+            ++result.wholeDigits;
+        }
+    }
+    return result;
+}
+
+bool IsDigit(QChar ch)
+{
+    return ch >= u'0' && ch <= u'9';
+}
+
+} // namespace
+
+QString Format(double value, QStringView picture)
+{
+    if (!std::isfinite(value)) {
+        return {};
+    }
+    const Picture wanted = ReadPicture(picture);
+    const Digits rounded = RoundHalfAway(std::abs(value), wanted.decimals);
+
+    QByteArray whole = rounded.digits.left(rounded.wholeDigits);
+    const qsizetype leading = std::distance(
+        whole.cbegin(), std::find_if(whole.cbegin(), whole.cend(), [](char digit) { return digit != '0'; }));
+    whole.remove(0, leading);
+    if (whole.size() < wanted.leastWhole) {
+        whole.prepend(QByteArray(wanted.leastWhole - whole.size(), '0'));
+    }
+    if (wanted.grouped) {
+        for (qsizetype place = whole.size() - 3; place > 0; place -= 3) {
+            whole.insert(place, ',');
+        }
+    }
+    QByteArray decimals = rounded.digits.mid(rounded.wholeDigits);
+    while (decimals.size() > wanted.leastDecimals && decimals.endsWith('0')) {
+        decimals.chop(1);
+    }
+
+    const bool zero =
+        std::all_of(rounded.digits.cbegin(), rounded.digits.cend(), [](char d) { return d == '0'; });
+    QByteArray result = (std::signbit(value) && !zero) ? QByteArray("-") : QByteArray();
+    result += whole;
+    if (wanted.point) {
+        result += '.' + decimals;
+    }
+    return QString::fromLatin1(result);
+}
+
+QString Format(const QString& text, QStringView picture)
+{
+    return text.trimmed().isEmpty() ? QString() : Format(Val(text), picture);
+}
+
+QString Str(double value)
+{
+    const QString digits = QString::number(value, 'g', kCertainDigits);
+    return value < 0 ? digits : u' ' + digits;
+}
+
+double Val(QStringView text)
+{
+    QByteArray number;
+    bool point = false;
+    bool digit = false;
+    qsizetype lastGood = 0; // the number up to here is complete
+    enum class Place { Mantissa, ExponentSign, Exponent } place = Place::Mantissa;
+    for (const QChar ch : text) {
+        if (ch.isSpace()) {
+            continue;
+        }
+        const bool isDigit = IsDigit(ch);
+        const bool sign = ch == u'+' || ch == u'-';
+        if (isDigit) {
+            digit = true;
+            if (place == Place::ExponentSign) {
+                place = Place::Exponent;
+            }
+        } else if (place == Place::Mantissa && ch == u'.' && !point) {
+            point = true;
+        } else if (place == Place::Mantissa && digit && (ch == u'e' || ch == u'E')) {
+            place = Place::ExponentSign;
+        } else if (sign && (number.isEmpty() || number.endsWith('e') || number.endsWith('E'))) {
+            // a sign stands only before the number or its exponent
+        } else {
+            break;
+        }
+        number.append(ch.toLatin1());
+        if (isDigit) {
+            lastGood = number.size();
+        }
+    }
+    number.truncate(lastGood);
+    if (number.isEmpty()) {
+        return 0;
+    }
+    return number.toDouble(); // 0 below the range of a double, infinite above it
+}
+
+QString RightJustify(const QString& text, int width)
+{
+    return text.rightJustified(std::max(width, 0), u' ', true);
+}
+
+std::optional<qint16> ToInt16(double value)
+{
+    // The comparisons come first: they also turn away what is not a number.
+    if (!(value >= -32769.0 && value <= 32768.0)) {
+        return std::nullopt;
+    }
+    const double lower = std::floor(value);
+    const double above = value - lower;
+    double rounded = above > 0.5 ? lower + 1 : lower;
+    if (above == 0.5 && std::fmod(lower, 2.0) != 0.0) {
+        rounded = lower + 1; // halves go to the even neighbour, as everywhere a 16-bit value is made
+    }
+    if (rounded < std::numeric_limits<qint16>::min() || rounded > std::numeric_limits<qint16>::max()) {
+        return std::nullopt;
+    }
+    return static_cast<qint16>(rounded);
+}

@@ -1,0 +1,58 @@
+#include "tests/CannedPrompts.h"
+
+#include <gtest/gtest.h>
+
+void CannedPrompts::ShowMessage()
+{
+    const int number = m_shared.messageNumber;
+    const QString text = CurrentMessageText(m_shared);
+    shownTexts << text;
+    shownReasons << m_shared.messageReason;
+    EXPECT_FALSE(busy) << "a message under the busy pointer: " << number;
+    if (expectedMessages.empty()) {
+        ADD_FAILURE() << "unexpected message " << number << ": " << text.toStdString();
+        return;
+    }
+    EXPECT_EQ(number, expectedMessages.front()) << text.toStdString();
+    expectedMessages.pop_front();
+}
+
+void CannedPrompts::AskQuestion()
+{
+    const QString text = CurrentQuestionText(m_shared);
+    askedTexts << text;
+    if (answers.empty()) {
+        ADD_FAILURE() << "unexpected question " << m_shared.questionNumber << ": " << text.toStdString();
+        m_shared.questionNumber = 0;
+        return;
+    }
+    m_shared.questionNumber = answers.front() ? kAnsweredYes : qint16{0};
+    answers.pop_front();
+}
+
+void CannedPrompts::FileDirectory()
+{
+    fileDialogModes.push_back(m_shared.fileDialogMode);
+    if (files.empty()) {
+        ADD_FAILURE() << "unexpected file dialog, mode " << m_shared.fileDialogMode;
+    }
+    const QString file = files.empty() ? QString() : files.front();
+    if (!files.empty()) {
+        files.pop_front();
+    }
+    if (file.isEmpty()) {
+        m_shared.fileDialogMode = kFileDialogCancelled;
+    } else {
+        m_shared.chosenPath = file;
+    }
+}
+
+void CannedPrompts::Notice(const QString& text)
+{
+    notices << text;
+}
+
+void CannedPrompts::SetBusyPointer(bool isBusy)
+{
+    busy = isBusy;
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "app/Prompts.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <deque>
+
+/// Prompts that answer from a list and keep what was asked. What was not expected fails the test.
+class CannedPrompts : public Prompts
+{
+public:
+    explicit CannedPrompts(LGLOBAL& shared) : m_shared(shared) {}
+
+    void ShowMessage() override;
+    void AskQuestion() override;
+    void FileDirectory() override;
+    void Notice(const QString& text) override;
+    void SetBusyPointer(bool busy) override;
+
+    /// Answers to come: true for Yes.
+    std::deque<bool> answers;
+    /// Files to be chosen; an empty one is a cancel.
+    std::deque<QString> files;
+    /// Messages that may come; one that is not the next of these fails the test.
+    std::deque<int> expectedMessages;
+
+    QStringList shownTexts;   ///< the texts of all messages, in order
+    QStringList shownReasons; ///< their reasons
+    QStringList notices;
+    QStringList askedTexts;
+    std::deque<qint16> fileDialogModes; ///< the modes the file dialog was opened under
+    bool busy = false;
+
+private:
+    LGLOBAL& m_shared;
+};
