@@ -77,6 +77,9 @@ std::optional<int> FullYear(const NumberGroup& year)
 QString ShortDateFormat(const QLocale& locale)
 {
     QString format = locale.dateFormat(QLocale::ShortFormat);
+    if (format.contains(u"MMM")) {
+        return u"yyyy-MM-dd"_s; // a date box takes digits and signs, so a month in words could not be typed
+    }
     if (!format.contains(u"yyyy")) {
         format.replace(u"yy"_s, u"yyyy"_s);
     }
@@ -102,10 +105,7 @@ std::optional<QDate> ParseShortDate(QStringView text, const QLocale& locale)
     const QString format = ShortDateFormat(locale);
     std::array<NumberGroup, 3> groups;
     if (SplitGroups(text, format, groups) != 3) {
-        // A format that spells the month out is read as the locale writes it.
-        const QDate spelled = locale.toDate(text.toString(), format);
-        return spelled.isValid() ? DateWithinRange(spelled.year(), spelled.month(), spelled.day())
-                                 : std::nullopt;
+        return std::nullopt;
     }
     QString order = PartOrder(format);
     if (groups[0].digits == 4 || order.size() != 3) {

@@ -7,7 +7,8 @@
 
 #include <optional>
 
-/// The locale's short date format with the year always in four digits, e.g. "M/d/yyyy" or "dd.MM.yyyy".
+/// The locale's short date format with the year always in four digits, e.g. "M/d/yyyy" or "dd.MM.yyyy"; where
+/// the locale spells the month out (the C locale does), "yyyy-MM-dd".
 [[nodiscard]] QString ShortDateFormat(const QLocale& locale);
 
 /// A calendar day in that format; "" for an invalid date.

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "app/LGLOBAL.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class AllYesNo;
+}
+
+/// Asks the question questionNumber of the shared state and leaves the answer there: kAnsweredYes, or 0.
+class AllYesNo : public QDialog
+{
+    Q_OBJECT
+
+public:
+    AllYesNo(LGLOBAL& shared, QWidget* mainWindow);
+    ~AllYesNo() override;
+
+    /// Closed without an answer: takes the answer that loses nothing.
+    void reject() override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void Answer(qint16 answer);
+
+    LGLOBAL& m_shared;
+    int m_question;
+    std::unique_ptr<Ui::AllYesNo> m_ui;
+};

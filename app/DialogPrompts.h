@@ -1,0 +1,31 @@
+#pragma once
+
+#include "app/Prompts.h"
+
+#include <QWidget>
+
+/// The prompts of the running program: modal dialogs over the main window.
+class DialogPrompts : public Prompts
+{
+public:
+    explicit DialogPrompts(LGLOBAL& shared) : m_shared(shared) {}
+
+    /// The window the dialogs belong to, once there is one.
+    void SetMainWindow(QWidget* mainWindow) { m_mainWindow = mainWindow; }
+
+    /// With nobody to answer, as on the picture tour: messages go to the error output, questions are answered
+    /// as if closed, the file dialog as if cancelled.
+    void SetUnattended() { m_unattended = true; }
+
+    void ShowMessage() override;
+    void AskQuestion() override;
+    void FileDirectory() override;
+    void Notice(const QString& text) override;
+    void SetBusyPointer(bool busy) override;
+
+private:
+    LGLOBAL& m_shared;
+    QWidget* m_mainWindow = nullptr;
+    bool m_busy = false;
+    bool m_unattended = false;
+};

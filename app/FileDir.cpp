@@ -1,0 +1,46 @@
+#include "app/FileDir.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+QString FileDir::Filter(qint16 mode)
+{
+    switch (mode) {
+    case kOpenInvestmentFile:
+        return u"Investment Database (*.inv)"_s;
+    case kSaveInvestmentFile: // the doubled word is the program's own
+        return u"Investment Database Database (*.inv)"_s;
+    default:
+        return u"Lottery Database (*.Lto)"_s;
+    }
+}
+
+QString FileDir::ProposedName(const LGLOBAL& shared)
+{
+    const bool investment =
+        shared.fileDialogMode == kOpenInvestmentFile || shared.fileDialogMode == kSaveInvestmentFile;
+    return investment ? shared.investmentFileName : shared.database.fileName;
+}
+
+void FileDir::FileDirectory()
+{
+    const bool opens = m_shared.fileDialogMode % 2 == 1;
+    const QString folder = m_shared.dialogFolder.isEmpty() ? QDir::currentPath() : m_shared.dialogFolder;
+    QFileDialog dialog(m_mainWindow, u"Folders"_s, folder, Filter(m_shared.fileDialogMode));
+    dialog.setObjectName(u"CMDialog1"_s);
+    dialog.setAcceptMode(opens ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+    dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.selectNameFilter(Filter(m_shared.fileDialogMode));
+    if (const QString name = ProposedName(m_shared); !name.isEmpty()) {
+        dialog.selectFile(name);
+    }
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        m_shared.fileDialogMode = kFileDialogCancelled;
+        return;
+    }
+    m_shared.chosenPath = dialog.selectedFiles().constFirst();
+    m_shared.dialogFolder = QFileInfo(m_shared.chosenPath).absolutePath();
+}

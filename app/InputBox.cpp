@@ -1,0 +1,208 @@
+#include "app/InputBox.h"
+
+#include "app/KeyFilters.h"
+#include "app/TextPictures.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDragEnterEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPalette>
+#include <QValidator>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+/// Lets a pasted or composed text in only if each of its characters may be typed. Blanks pass, since the
+/// program itself writes numbers right-justified.
+class CharacterValidator : public QValidator
+{
+public:
+    explicit CharacterValidator(const InputBox* box) : QValidator(nullptr), m_box(box) {}
+
+    State validate(QString& text, int& /*cursor*/) const override
+    {
+        const bool allowed = std::all_of(text.cbegin(), text.cend(),
+                                         [this](QChar ch) { return ch == u' ' || m_box->Takes(ch); });
+        return allowed ? Acceptable : Invalid;
+    }
+
+private:
+    const InputBox* m_box;
+};
+
+/// Boxes allowing input are green, with black text on any desktop.
+QPalette GreenBox(QPalette palette)
+{
+    const QColor green(0x80, 0xFF, 0x80);
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::Base, green);
+        palette.setColor(group, QPalette::Text, Qt::black);
+        palette.setColor(group, QPalette::PlaceholderText, QColor(0, 0, 0, 0x80));
+    }
+    return palette;
+}
+
+} // namespace
+
+InputBox::InputBox(QWidget* parent) : QLineEdit(parent)
+{
+    setPalette(GreenBox(palette()));
+    auto* validator = new CharacterValidator(this);
+    validator->setParent(this);
+    setValidator(validator);
+    connect(this, &QLineEdit::inputRejected, this, &InputBox::Refuse);
+}
+
+void InputBox::Follow(LGLOBAL& shared, InputRules rules)
+{
+    m_shared = &shared;
+    m_rules = std::move(rules);
+    if (m_rules.keys == InputRules::Keys::Digits) {
+        setInputMethodHints(Qt::ImhDigitsOnly);
+    }
+}
+
+int InputBox::Filter(int key) const
+{
+    switch (m_rules.keys) {
+    case InputRules::Keys::Digits:
+        return FilterDigitKey(key);
+    case InputRules::Keys::Decimal:
+        return FilterDecimalKey(key, m_shared != nullptr ? QStringView(m_shared->currentEntryText)
+                                                         : QStringView());
+    case InputRules::Keys::Date:
+        return FilterDateKey(key);
+    case InputRules::Keys::FileText:
+        return FilterFileTextKey(key);
+    }
+    return 0;
+}
+
+bool InputBox::Takes(QChar character) const
+{
+    const int key = character.unicode();
+    switch (m_rules.keys) {
+    case InputRules::Keys::Decimal: // without the text typed so far
+        return FilterDecimalKey(key, {}) != 0;
+    default:
+        return Filter(key) != 0;
+    }
+}
+
+void InputBox::Refuse()
+{
+    QApplication::beep();
+    Q_EMIT KeyRefused();
+}
+
+bool InputBox::MovesWithinWindow(Qt::FocusReason reason)
+{
+    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+           reason != Qt::MenuBarFocusReason;
+}
+
+void InputBox::keyPressEvent(QKeyEvent* event)
+{
+    if (m_shared == nullptr) {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (QWidget* next = m_rules.next ? m_rules.next() : nullptr) {
+            next->setFocus(Qt::TabFocusReason);
+        }
+        return;
+    }
+    const QString typed = event->text();
+    const int key = typed.isEmpty() ? 0 : typed.front().unicode();
+    const bool erases = key == kBackspaceKey || key == kDeleteKey;
+    const Qt::KeyboardModifiers held = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    const bool command =
+        held == Qt::ControlModifier || held == Qt::AltModifier; // both together type, as AltGr
+    if (key == 0 || command || (key < ' ' && !erases)) {        // arrows, Tab, Escape, copying
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    m_shared->currentEntryText = text();
+    if (Filter(key) == 0) {
+        Refuse();
+        return;
+    }
+    if (m_shared->entryEdited == 0) {
+        m_shared->entryEdited = 1;
+        if (m_rules.click == InputRules::Click::EmptiesBox) {
+            clear();
+        }
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void InputBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    QLineEdit::mouseReleaseEvent(event);
+    if (m_shared == nullptr || event->button() != Qt::LeftButton ||
+        !rect().contains(event->position().toPoint())) {
+        return;
+    }
+    if (m_rules.click == InputRules::Click::EmptiesBox) {
+        m_shared->entryEdited = 1;
+        clear();
+    } else if (std::exchange(m_selectOnRelease, false) && !hasSelectedText()) {
+        selectAll();
+    }
+}
+
+void InputBox::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    if (m_shared == nullptr || !MovesWithinWindow(event->reason())) {
+        return;
+    }
+    QApplication::clipboard()->clear(); // so that nothing can be pasted into the box
+    if (m_rules.click == InputRules::Click::SelectsText) {
+        selectAll();
+        m_selectOnRelease = event->reason() == Qt::MouseFocusReason;
+    }
+}
+
+void InputBox::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    if (m_shared == nullptr || !MovesWithinWindow(event->reason())) {
+        return;
+    }
+    const bool edited = std::exchange(m_shared->entryEdited, qint16{0}) != 0;
+    const std::optional<Message> due = m_rules.leave ? m_rules.leave(*this, edited) : std::nullopt;
+    QApplication::clipboard()->clear();
+    if (due) {
+        Q_EMIT MessageDue(*due);
+    }
+}
+
+void InputBox::dragEnterEvent(QDragEnterEvent* event)
+{
+    event->ignore(); // numbers are typed: a dropped text would pass by the keys' rules
+}
+
+LeaveRule NumberFromTo(int low, int high, const Message& message, const QString& picture,
+                       std::function<double()> fallback)
+{
+    return [=, fallback = std::move(fallback)](InputBox& box, bool edited) -> std::optional<Message> {
+        const auto write = [&](double value) {
+            box.setText(RightJustify(Format(value, picture), static_cast<int>(picture.size())));
+        };
+        const double value = Val(box.text());
+        if (value < low || value > high) {
+            write(fallback());
+            return message;
+        }
+        if (edited) {
+            write(value);
+        }
+        return std::nullopt;
+    };
+}

@@ -1,0 +1,151 @@
+#include "app/LotoMenu.h"
+
+#include "app/LotteryFileCommands.h"
+#include "app/StartUp.h"
+#include "ui_LotoMenu.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kNoRecordsToWorkWith = 44;
+constexpr qint16 kGraphFromMenu = 1;
+
+} // namespace
+
+LotoMenu::LotoMenu(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, const QString& programFolder,
+                   QWidget* parent)
+    : WorkingForm(shared, prompts, switcher, parent), m_programFolder(programFolder),
+      m_ui(std::make_unique<Ui::LotoMenu>())
+{
+    m_ui->setupUi(this);
+    QFont title = m_ui->Label2->font();
+    title.setPointSizeF(title.pointSizeF() * 2);
+    title.setBold(true);
+    m_ui->Label2->setFont(title);
+    m_ui->Label3->SetColors({QColor(0xF0, 0x50, 0x50), QColor(0xF5, 0xD0, 0x30), QColor(0x30, 0xC0, 0xD8)});
+    m_ui->Label4->SetColors({QColor(0x58, 0xC8, 0x58), QColor(0xE8, 0xE8, 0xE8), QColor(0xD8, 0x60, 0xC8)});
+    ConnectButtons();
+}
+
+LotoMenu::~LotoMenu() = default;
+
+void LotoMenu::ConnectButtons()
+{
+    OnClick(m_ui->DBaseForm, [this] {
+        Asking().SetBusyPointer(true);
+        Switcher().ShowForm(FormName::LDbase);
+    });
+    OnClick(m_ui->LoadFile, [this] { OpenFile(); });
+    OnClick(m_ui->SaveFile, [this] { SaveFileToDisk(); });
+    OnClick(m_ui->PickForm, [this] { Switcher().ShowForm(FormName::Lottery); });
+    OnClick(m_ui->CheckWin, [this] { ShowWithRecords(FormName::LCheckWin); });
+    OnClick(m_ui->ShowGraph1, [this] { ShowGraphs(); });
+    OnClick(m_ui->SelectRec, [this] { ShowWithRecords(FormName::Extract); });
+    OnClick(m_ui->InvTrack, [this] { Switcher().ShowForm(FormName::LInvTrack); });
+    OnClick(m_ui->PtrFnt, [this] { Switcher().ShowForm(FormName::ChangeFnt); });
+    OnClick(m_ui->PrintDbase, [this] { PrintDatabase(); });
+    OnClick(m_ui->HowtoUse, [this] { Switcher().TellComesLater(u"'How to Use the Program'"_s); });
+    OnClick(m_ui->Exit1Butt, [this] { Exit(); });
+}
+
+void LotoMenu::resizeEvent(QResizeEvent* event)
+{
+    WorkingForm::resizeEvent(event);
+    // A large window has room for large letters. The opening size keeps the desktop's own, which costs no
+    // time.
+    constexpr int kOpeningHeight = 470;
+    constexpr qreal kLargest = 1.5;
+    const qreal growth = std::clamp(qreal(height()) / kOpeningHeight, qreal(1), kLargest);
+    QFont letters = font();
+    letters.setPointSizeF(letters.pointSizeF() * growth);
+    const QList<QPushButton*> buttons = findChildren<QPushButton*>();
+    for (QPushButton* button : buttons) {
+        if (button->font() != letters) {
+            button->setFont(letters);
+        }
+    }
+}
+
+void LotoMenu::Load()
+{
+    Switcher().SetCaption(u" Quillaby Menu"_s);
+    InitialiseSharedState(Shared(), m_programFolder);
+    ShowUserName();
+    ShowFileInMemory();
+}
+
+QPoint LotoMenu::FrontPlace() const
+{
+    return Shared().layoutSize < kLargeLayoutFrom ? QPoint(-25, -15) : QPoint(1000, 1000);
+}
+
+void LotoMenu::ShowUserName()
+{
+    m_ui->MyName->setText(Shared().settings.userName);
+    m_ui->MyName->setVisible(!Shared().settings.userName.isEmpty());
+}
+
+void LotoMenu::ShowFileInMemory()
+{
+    const DrawDatabase& database = Shared().database;
+    m_ui->InfoLabel->setText(database.count == 0 ? QString()
+                                                 : u" File in Memory \r\n  "_s + database.title + u"  "_s);
+}
+
+void LotoMenu::OpenNamedFile(const QString& path)
+{
+    Switcher().HideForm();
+    OpenLotteryFile(Shared(), Asking(), path);
+    Switcher().ShowForm(FormName::LDbase);
+}
+
+void LotoMenu::OpenFile()
+{
+    Switcher().HideForm();
+    LoadFile(Shared(), Asking());
+    // In every case: after a good load, after a cancel and after a failure.
+    Switcher().ShowForm(FormName::LDbase);
+}
+
+void LotoMenu::SaveFileToDisk()
+{
+    Switcher().HideForm();
+    SaveFile(Shared(), Asking());
+    Switcher().ShowForm(FormName::LotoMenu);
+}
+
+void LotoMenu::ShowWithRecords(FormName form)
+{
+    if (Shared().database.count >= 1) {
+        Switcher().ShowForm(form);
+    } else {
+        Show(Shared(), Asking(), {.number = kNoRecordsToWorkWith});
+    }
+}
+
+void LotoMenu::ShowGraphs()
+{
+    if (Shared().database.count >= 1) {
+        Shared().graphCaller = kGraphFromMenu;
+    }
+    ShowWithRecords(FormName::LGraph);
+}
+
+void LotoMenu::PrintDatabase()
+{
+    if (Shared().database.count == 0) {
+        Show(Shared(), Asking(), {.number = kNoRecordsToWorkWith});
+    } else {
+        Switcher().TellComesLater(u"'Print Current Database'"_s);
+    }
+}
+
+void LotoMenu::Exit()
+{
+    if (MayEndProgram(Shared(), Asking())) {
+        Switcher().EndProgram();
+    }
+}

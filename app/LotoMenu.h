@@ -1,0 +1,49 @@
+#pragma once
+
+#include "app/WorkingForm.h"
+
+#include <memory>
+
+namespace Ui {
+class LotoMenu;
+}
+
+/// The main menu: twelve buttons, each of which hides the menu and shows one working form.
+class LotoMenu : public WorkingForm
+{
+    Q_OBJECT
+
+public:
+    LotoMenu(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, const QString& programFolder,
+             QWidget* parent = nullptr);
+    ~LotoMenu() override;
+
+    /// Starts the program: the caption, the first values of the shared state, the user's name.
+    void Load() override;
+
+    [[nodiscard]] QPoint FrontPlace() const override;
+
+    /// Opens a file without asking for it, as when it is named on the command line, and shows the editor.
+    void OpenNamedFile(const QString& path);
+
+    /// Shows the user's name, or hides its label when there is none.
+    void ShowUserName();
+
+    /// Says which database is in memory; nothing while there are no records.
+    void ShowFileInMemory();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void ConnectButtons();
+    void OpenFile();
+    void SaveFileToDisk();
+    void ShowWithRecords(FormName form);
+    void ShowGraphs();
+    void PrintDatabase();
+    void Exit();
+
+    QString m_programFolder;
+    std::unique_ptr<Ui::LotoMenu> m_ui;
+};

@@ -1,0 +1,176 @@
+#include "app/MDIContainer.h"
+
+#include "app/Twips.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QResizeEvent>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kWidthInTwips = 9615;
+constexpr int kHeightInTwips = 6870;
+constexpr int kLargeFromTwips = 8500;
+constexpr qint32 kSmallLayout = 6810;
+constexpr qint32 kLargeLayout = 8670;
+
+QString NameOf(FormName name)
+{
+    switch (name) {
+    case FormName::Lottery:
+        return u"'Selectorium'"_s;
+    case FormName::LCheckWin:
+        return u"'Check Winners'"_s;
+    case FormName::LGraph:
+        return u"'Show Graphs'"_s;
+    case FormName::Extract:
+        return u"'Extract between two Dates'"_s;
+    case FormName::LInvTrack:
+        return u"'Investment Tracker'"_s;
+    case FormName::ChangeFnt:
+        return u"'Personalize Settings'"_s;
+    default:
+        return u"This form"_s;
+    }
+}
+
+} // namespace
+
+MDIContainer::MDIContainer(LGLOBAL& shared, Prompts& prompts, const QString& programFolder)
+    : m_shared(shared), m_prompts(prompts), m_stage(new QWidget(this)),
+      m_menu(new LotoMenu(shared, prompts, *this, programFolder, m_stage))
+{
+    setObjectName(u"MDIContainer"_s);
+    m_stage->setObjectName(u"Stage"_s);
+    m_stage->setBackgroundRole(QPalette::Mid); // in the large layout it frames the form
+    m_stage->setAutoFillBackground(true);
+    m_stage->installEventFilter(this);
+    m_menu->hide();
+    setCentralWidget(m_stage);
+}
+
+void MDIContainer::AddForm(FormName name, FormMaker maker)
+{
+    m_makers[name] = std::move(maker);
+}
+
+void MDIContainer::Start()
+{
+    m_menu->Load();
+    move(0, 0);
+    resize(TwipsToPixels(kWidthInTwips, logicalDpiX()), TwipsToPixels(kHeightInTwips, logicalDpiY()));
+    BringToFront(m_menu);
+}
+
+WorkingForm* MDIContainer::FindForm(FormName name)
+{
+    if (const auto made = m_forms.find(name); made != m_forms.end()) {
+        return made->second;
+    }
+    const auto maker = m_makers.find(name);
+    if (maker == m_makers.end()) {
+        return nullptr;
+    }
+    WorkingForm* form = maker->second(*this, m_stage);
+    form->hide();
+    m_forms[name] = form;
+    return form;
+}
+
+void MDIContainer::ShowForm(FormName name)
+{
+    if (name == FormName::LotoMenu) {
+        m_menu->ShowFileInMemory();
+        BringToFront(m_menu);
+        return;
+    }
+    WorkingForm* form = FindForm(name);
+    if (form == nullptr) {
+        TellComesLater(NameOf(name));
+        return;
+    }
+    HideForm();
+    form->Load();
+    BringToFront(form);
+}
+
+void MDIContainer::HideForm()
+{
+    if (m_active != nullptr) {
+        m_active->hide();
+        m_active = nullptr;
+    }
+}
+
+void MDIContainer::BringToFront(WorkingForm* form)
+{
+    if (m_active != form) {
+        HideForm();
+    }
+    m_active = form;
+    GrowFor(*form);
+    MoveForm(form, form->FrontPlace());
+    form->show();
+    form->raise();
+    if (form->focusWidget() != nullptr) {
+        form->focusWidget()->setFocus();
+    } else {
+        form->setFocus();
+    }
+}
+
+void MDIContainer::GrowFor(const WorkingForm& form)
+{
+    // A desktop with a large font needs more room than the 9,615 by 6,870 twips; nothing may be clipped.
+    const QSize needed = form.minimumSizeHint();
+    setMinimumSize(minimumSize().expandedTo(needed));
+}
+
+void MDIContainer::MoveForm(WorkingForm* form, QPoint twips)
+{
+    const QPoint corner(TwipsToPixels(twips.x(), logicalDpiX()), TwipsToPixels(twips.y(), logicalDpiY()));
+    // The same distance on the far sides: the form uses the room and stands in the middle.
+    form->setGeometry(QRect(corner, m_stage->size() - QSize(2 * corner.x(), 2 * corner.y())));
+}
+
+void MDIContainer::StageResized()
+{
+    m_shared.layoutSize =
+        PixelsToTwips(height(), logicalDpiY()) > kLargeFromTwips ? kLargeLayout : kSmallLayout;
+    if (m_active != nullptr) {
+        MoveForm(m_active, WorkingForm::ResizedPlace(m_shared.layoutSize));
+    }
+}
+
+bool MDIContainer::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_stage && event->type() == QEvent::Resize) {
+        StageResized();
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MDIContainer::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(MayEndProgram(m_shared, m_prompts));
+}
+
+void MDIContainer::TellComesLater(const QString& what)
+{
+    m_prompts.SetBusyPointer(false);
+    m_prompts.Notice(what + u" is not part of this version yet. It comes with a later one."_s);
+}
+
+void MDIContainer::SetCaption(const QString& caption)
+{
+    setWindowTitle(caption);
+}
+
+void MDIContainer::EndProgram()
+{
+    QCoreApplication::exit(0);
+}

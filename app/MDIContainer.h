@@ -1,0 +1,57 @@
+#pragma once
+
+#include "app/FormSwitcher.h"
+#include "app/LotoMenu.h"
+#include "app/WorkingForm.h"
+
+#include <QMainWindow>
+
+#include <functional>
+#include <map>
+
+/// The main window: the menu and the working forms stand in it, one at a time.
+class MDIContainer : public QMainWindow, public FormSwitcher
+{
+    Q_OBJECT
+
+public:
+    /// Makes a working form inside the given parent.
+    using FormMaker = std::function<WorkingForm*(FormSwitcher& switcher, QWidget* parent)>;
+
+    MDIContainer(LGLOBAL& shared, Prompts& prompts, const QString& programFolder);
+
+    /// Says how a form is made when it is first shown.
+    void AddForm(FormName name, FormMaker maker);
+
+    /// The menu's start and the window's place: left 0, top 0, 9,615 by 6,870 twips, or more where the
+    /// desktop's font needs more.
+    void Start();
+
+    [[nodiscard]] LotoMenu& Menu() { return *m_menu; }
+    [[nodiscard]] const WorkingForm* ActiveForm() const { return m_active; }
+
+    void ShowForm(FormName name) override;
+    void HideForm() override;
+    void TellComesLater(const QString& what) override;
+    void SetCaption(const QString& caption) override;
+    void EndProgram() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    WorkingForm* FindForm(FormName name);
+    void BringToFront(WorkingForm* form);
+    void StageResized();
+    void MoveForm(WorkingForm* form, QPoint twips);
+    void GrowFor(const WorkingForm& form);
+
+    LGLOBAL& m_shared;
+    Prompts& m_prompts;
+    QWidget* m_stage; ///< what lies behind the forms
+    LotoMenu* m_menu;
+    WorkingForm* m_active = nullptr; ///< the form that is shown; none while a file dialog of the menu is open
+    std::map<FormName, FormMaker> m_makers;
+    std::map<FormName, WorkingForm*> m_forms;
+};

@@ -1,0 +1,127 @@
+#include "app/DialogPrompts.h"
+#include "app/LGLOBAL.h"
+#include "app/MDIContainer.h"
+#include "app/PictureTour.h"
+#include "app/ProgramFolder.h"
+#include "database/LDbase.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kSample = u":/samples/Sample.Lto"_s;
+
+struct CommandLine {
+    QString file;       ///< opened at start, absolute; "" for none
+    QString folder;     ///< program folder asked for
+    QString tourFolder; ///< where the pictures go, absolute; "" for no tour
+    int exitCode = -1;  ///< not negative when there is nothing more to do
+};
+
+QString Absolute(const QString& path)
+{
+    return path.isEmpty() ? path : QFileInfo(path).absoluteFilePath();
+}
+
+void Print(FILE* stream, const QString& text)
+{
+    std::fputs(text.toLocal8Bit().constData(), stream);
+}
+
+/// Read before there is a window, so that --help and --version answer on any machine.
+CommandLine ReadCommandLine(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        u"Keeps the draws of a lottery, counts them and makes sets of numbers."_s);
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption folder(u"folder"_s, u"Keep settings and samples in <dir>."_s, u"dir"_s);
+    const QCommandLineOption tour(u"tour"_s, u"Save a picture of each form in <dir> and end."_s, u"dir"_s);
+    parser.addOptions({folder, tour});
+    parser.addPositionalArgument(u"file"_s, u"The lottery database to open."_s, u"[file]"_s);
+
+    CommandLine line;
+    if (!parser.parse(arguments)) {
+        Print(stderr, parser.errorText() + u'\n');
+        line.exitCode = 2;
+    } else if (parser.positionalArguments().size() > 1) {
+        Print(stderr, u"Only one file can be opened at a time.\n"_s);
+        line.exitCode = 2;
+    } else if (parser.isSet(help)) {
+        Print(stdout, parser.helpText());
+        line.exitCode = 0;
+    } else if (parser.isSet(version)) {
+        Print(stdout, u"Quillaby System v3.6 (%1)\n"_s.arg(QCoreApplication::applicationVersion()));
+        line.exitCode = 0;
+    }
+    line.file = Absolute(parser.positionalArguments().value(0));
+    line.folder = Absolute(parser.value(folder));
+    line.tourFolder = Absolute(parser.value(tour));
+    return line;
+}
+
+int TakeTour(LGLOBAL& shared, MDIContainer& window, const CommandLine& line)
+{
+    window.Menu().OpenNamedFile(line.file.isEmpty() ? kSample : line.file);
+    window.ShowForm(FormName::LotoMenu);
+    const std::vector<TourStop> stops{
+        {FormName::LotoMenu, u"LotoMenu"_s, {}},
+        {FormName::LDbase, u"LDbase"_s, {}},
+        {FormName::LDbase, u"LDbase-help"_s, u"DHelp"_s},
+    };
+    const Outcome taken = TakePictures(shared, window, stops, line.tourFolder);
+    Print(taken.ok ? stdout : stderr,
+          (taken.ok ? u"Pictures saved in "_s + line.tourFolder : taken.reason) + u'\n');
+    return taken.ok ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setApplicationName(u"quillaby"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUILLABY_VERSION));
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments << QString::fromLocal8Bit(argv[i]);
+    }
+    const CommandLine line = ReadCommandLine(arguments);
+    if (line.exitCode >= 0) {
+        return line.exitCode;
+    }
+
+    const QApplication application(argc, argv);
+    const QString programFolder =
+        ChooseProgramFolder({.executableFolder = QCoreApplication::applicationDirPath(),
+                             .dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
+                             .asked = line.folder},
+                            kSample);
+    LGLOBAL shared;
+    DialogPrompts prompts(shared);
+    MDIContainer window(shared, prompts, programFolder);
+    prompts.SetMainWindow(&window);
+    if (!line.tourFolder.isEmpty()) {
+        prompts.SetUnattended();
+    }
+    window.AddForm(FormName::LDbase, [&](FormSwitcher& switcher, QWidget* parent) {
+        return new LDbase(shared, prompts, switcher, parent);
+    });
+    window.Start();
+    window.show();
+    if (!line.tourFolder.isEmpty()) {
+        return TakeTour(shared, window, line);
+    }
+    if (!line.file.isEmpty()) {
+        QTimer::singleShot(0, &window, [&] { window.Menu().OpenNamedFile(line.file); });
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,456 @@
+#include "database/LDbase.h"
+
+#include "app/KeyFilters.h"
+#include "app/SharedStatistics.h"
+#include "app/ShortDate.h"
+#include "app/TextPictures.h"
+#include "database/CountsDelegate.h"
+#include "database/EditorHelp.h"
+#include "database/NewRow.h"
+#include "database/NextDrawDate.h"
+#include "database/TopNumbers.h"
+#include "ui_LDbase.h"
+
+#include <QHeaderView>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kNoDataToGraph = 2;
+constexpr int kNewNumberIsZero = 6;
+constexpr int kNoRecordToCorrect = 18;
+constexpr int kFromOneToTen = 27;
+constexpr int kFromOneToSixty = 28;
+constexpr int kNotAProperDate = 30;
+constexpr int kNoRecordToAdd = 36;
+constexpr int kDuplicateNumbers = 37;
+constexpr int kDeleteAllFirst = 40;
+constexpr int kMostRecords = 45;
+constexpr int kGoBackAndSave = 3;
+constexpr qint16 kGraphFromEditor = 2;
+
+QString FirstStatisticsLine()
+{
+    return u"Showing the number of times drawn"_s;
+}
+
+QString ShapeText(int value)
+{
+    return RightJustify(Format(value, u"##"), 2);
+}
+
+} // namespace
+
+LDbase::LDbase(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QWidget* parent)
+    : WorkingForm(shared, prompts, switcher, parent), m_ui(std::make_unique<Ui::LDbase>()),
+      m_records(shared.database, shared.locale), m_counts{CountsModel(shared.NumberStats, 1),
+                                                          CountsModel(shared.NumberStats, 21),
+                                                          CountsModel(shared.NumberStats, 41)}
+{
+    m_ui->setupUi(this);
+    m_ui->HelpBoxD->setPlainText(EditorHelpText());
+    m_ui->HelpBoxD->hide();
+    SetUpGrids();
+    SetUpInputs();
+    SetUpNumberBoxes();
+    ConnectCommands();
+    WatchInputBoxes();
+}
+
+LDbase::~LDbase() = default;
+
+void LDbase::SetUpGrids()
+{
+    m_ui->DGrid1->setModel(&m_records);
+    m_ui->DGrid1->setItemDelegate(new CountsDelegate(m_ui->DGrid1));
+    const int row = fontMetrics().height() + 4;
+    m_ui->DGrid1->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_ui->DGrid1->verticalHeader()->setDefaultSectionSize(row);
+
+    const std::array<QTableView*, 3> grids{m_ui->DGrid2, m_ui->DGrid3, m_ui->DGrid4};
+    for (std::size_t i = 0; i < grids.size(); ++i) {
+        QTableView* grid = grids.at(i);
+        grid->setModel(&m_counts.at(i));
+        grid->setItemDelegate(new CountsDelegate(grid));
+        grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+        grid->horizontalHeader()->setFixedHeight(row);
+        grid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+        grid->verticalHeader()->setDefaultSectionSize(row);
+        grid->setFixedHeight(2 * row + 2 * grid->frameWidth());
+    }
+}
+
+void LDbase::SetUpInputs()
+{
+    InputRules title{.keys = InputRules::Keys::FileText, .click = InputRules::Click::SelectsText};
+    title.next = [this] { return m_ui->NumCol; };
+    m_ui->InFileName->Follow(Shared(), title);
+
+    InputRules picks{.click = InputRules::Click::SelectsText};
+    picks.next = [this] { return m_ui->HighNum; };
+    picks.leave = [this](InputBox& box, bool edited) {
+        return LeaveShapeBox(box, edited, kMostPicks, kFromOneToTen,
+                             [this] { return Shared().database.columns - 2; });
+    };
+    m_ui->NumCol->Follow(Shared(), picks);
+
+    InputRules highest{.click = InputRules::Click::SelectsText};
+    highest.next = [this] { return m_ui->InDate; };
+    highest.leave = [this](InputBox& box, bool edited) {
+        return LeaveShapeBox(box, edited, kMostNumbers, kFromOneToSixty,
+                             [this] { return Shared().database.highest; });
+    };
+    m_ui->HighNum->Follow(Shared(), highest);
+
+    InputRules date{.keys = InputRules::Keys::Date};
+    date.next = [this] { return DYourNumIn.front(); };
+    date.leave = [this](InputBox& box, bool /*edited*/) { return LeaveDate(box); };
+    m_ui->InDate->Follow(Shared(), date);
+}
+
+void LDbase::SetUpNumberBoxes()
+{
+    DYourNumIn = {m_ui->DYourNumIn0, m_ui->DYourNumIn1, m_ui->DYourNumIn2, m_ui->DYourNumIn3,
+                  m_ui->DYourNumIn4, m_ui->DYourNumIn5, m_ui->DYourNumIn6, m_ui->DYourNumIn7,
+                  m_ui->DYourNumIn8, m_ui->DYourNumIn9};
+    for (std::size_t i = 0; i < DYourNumIn.size(); ++i) {
+        InputRules number;
+        number.next = [this, i]() -> QWidget* {
+            const auto picks = static_cast<std::size_t>(Shared().database.Shape().picks);
+            return i + 1 >= picks ? static_cast<QWidget*>(m_ui->DCalc) : DYourNumIn.at(i + 1);
+        };
+        DYourNumIn.at(i)->setAccessibleName(u"Number %1 of the new draw"_s.arg(i + 1));
+        DYourNumIn.at(i)->Follow(Shared(), number);
+    }
+}
+
+void LDbase::ConnectCommands()
+{
+    OnClick(m_ui->DCalc, [this] { AddRecord(); });
+    OnClick(m_ui->DCorrectRec, [this] { CorrectRecord(); });
+    OnClick(m_ui->DDeleteAll, [this] { DeleteAll(); });
+    OnClick(m_ui->DGraphs, [this] { ShowGraph(); });
+    OnClick(m_ui->DHelp, [this] { ToggleHelp(); });
+    OnClick(m_ui->DExit, [this] { Exit(); });
+    OnClick(m_ui->WhichCnt, [this] { SwitchCount(); });
+    OnClick(m_ui->Duponoff, [this] { AllowDuplicates = m_ui->Duponoff->isChecked(); });
+
+    DaysofWeek = {m_ui->DaysofWeek0, m_ui->DaysofWeek1, m_ui->DaysofWeek2, m_ui->DaysofWeek3,
+                  m_ui->DaysofWeek4, m_ui->DaysofWeek5, m_ui->DaysofWeek6};
+    for (std::size_t i = 0; i < DaysofWeek.size(); ++i) {
+        QCheckBox* box = DaysofWeek.at(i);
+        OnClick(box,
+                [this, box, i] { Shared().database.CheckDay(static_cast<int>(i) + 1, box->isChecked()); });
+    }
+    connect(m_ui->InFileName, &QLineEdit::textEdited, this,
+            [this](const QString& title) { Shared().database.title = title; });
+    connect(m_ui->DGrid1, &QTableView::clicked, this, [this](const QModelIndex& cell) {
+        Shared().ClickedRecord = static_cast<qint16>(m_records.RecordInRow(cell.row()));
+    });
+}
+
+void LDbase::Load()
+{
+    LGLOBAL& shared = Shared();
+    Switcher().SetCaption(u" View and Edit Database Records"_s);
+    AllowDuplicates = false;
+    m_ui->Duponoff->setChecked(false);
+    shared.topNumbersText = {};
+    m_ui->Label4->setText(FirstStatisticsLine());
+
+    m_ui->InFileName->setText(shared.database.title);
+    ShowShape();
+    m_ui->WhichCnt->setChecked(true);
+    shared.WhichCnt = CountMode::TimesDrawn;
+    shared.ClickedRecord = 0;
+    EmptyNumberBoxes();
+
+    BuildRecordsGrid();
+    if (shared.database.count > 0) {
+        FillRecordsGrid();
+        ComputeNumberStats(shared);
+        ShowStatistics();
+    }
+    ShowDrawDays();
+    // With records the next draw's date; without any, today, whose weekday becomes a draw day.
+    AdvanceDate();
+
+    // Opening runs the same limit test as adding, so an over-full database is told at once.
+    if (IsFull(shared.database)) {
+        ShowLater({.number = kMostRecords});
+    }
+    m_ui->DGrid1->scrollToTop();
+    if (shared.database.count > 0) {
+        DYourNumIn.front()->setFocus();
+    } else {
+        m_ui->InFileName->setFocus();
+    }
+    Asking().SetBusyPointer(false);
+}
+
+void LDbase::ShowShape()
+{
+    m_ui->NumCol->setText(ShapeText(Shared().database.columns - 2));
+    m_ui->HighNum->setText(ShapeText(Shared().database.highest));
+}
+
+void LDbase::ShowDrawDays()
+{
+    const DrawDays days = Shared().database.CheckedDays();
+    for (std::size_t i = 0; i < DaysofWeek.size(); ++i) {
+        DaysofWeek.at(i)->setChecked(days.at(i + 1));
+    }
+}
+
+void LDbase::BuildRecordsGrid()
+{
+    DrawDatabase& database = Shared().database;
+    // The boxes are asked, not the database: this is also how a new shape comes into force.
+    database.columns = ToInt16(Val(m_ui->NumCol->text()) + 2).value_or(kRecordCells);
+    database.highest = ToInt16(Val(m_ui->HighNum->text())).value_or(kMostNumbers);
+    const LotteryShape shape = database.Shape();
+    database.columns = static_cast<qint16>(shape.picks + 2);
+    database.highest = static_cast<qint16>(shape.highest);
+    ShowShape();
+
+    m_records.Build();
+    QHeaderView* header = m_ui->DGrid1->horizontalHeader();
+    header->setSectionResizeMode(QHeaderView::Stretch);
+    const QFontMetrics metrics(font());
+    for (const int column : {RecordsModel::NumberColumn, RecordsModel::DateColumn}) {
+        header->setSectionResizeMode(column, QHeaderView::Fixed);
+    }
+    constexpr int kCellMargins = 12;
+    const QDate wide(2028, 12, 28);
+    header->resizeSection(RecordsModel::NumberColumn, metrics.horizontalAdvance(u"Record"_s) + kCellMargins);
+    header->resizeSection(RecordsModel::DateColumn,
+                          metrics.horizontalAdvance(ShortDate(wide, Shared().locale)) + kCellMargins);
+
+    for (std::size_t i = 0; i < DYourNumIn.size(); ++i) {
+        DYourNumIn.at(i)->setVisible(static_cast<int>(i) < shape.picks);
+    }
+    for (CountsModel& counts : m_counts) {
+        counts.SetUp(shape.highest);
+    }
+}
+
+void LDbase::FillRecordsGrid()
+{
+    m_records.Fill();
+}
+
+void LDbase::ShowStatistics()
+{
+    LGLOBAL& shared = Shared();
+    for (CountsModel& counts : m_counts) {
+        counts.Fill();
+    }
+    shared.topNumbersText = {};
+    SortNumberStats(shared);
+    if (shared.sortedNumberStats.at(1).value > 0) {
+        const TopNumbers top =
+            DescribeTopNumbers(shared.sortedNumberStats, shared.WhichCnt, shared.database.Shape().picks);
+        m_ui->Label4->setText(top.heading);
+        shared.topNumbersText.at(1) = top.heading;
+        shared.topNumbersText.at(2) = top.numbers;
+    }
+}
+
+void LDbase::ClearAllCels()
+{
+    m_records.Clear();
+    for (CountsModel& counts : m_counts) {
+        counts.Clear();
+    }
+}
+
+void LDbase::MakVisible()
+{
+    for (QWidget* button : {m_ui->DCorrectRec, m_ui->DDeleteAll, m_ui->DGraphs}) {
+        button->show();
+    }
+}
+
+void LDbase::MakInvisible()
+{
+    for (QWidget* button : {m_ui->DCorrectRec, m_ui->DDeleteAll, m_ui->DGraphs}) {
+        button->hide();
+    }
+}
+
+void LDbase::AdvanceDate()
+{
+    DrawDatabase& database = Shared().database;
+    const std::optional<QDate> last =
+        database.count > 0
+            ? CellDate(database.records.at(static_cast<std::size_t>(database.count)).date, Shared().locale)
+            : std::nullopt;
+    if (last) {
+        NewDate = NextDrawDate(*last, database.CheckedDays());
+    } else {
+        NewDate = Shared().today();
+        if (database.count == 0) {
+            database.CheckDay(WeekdayOf(NewDate), true);
+            ShowDrawDays();
+        }
+    }
+    m_ui->InDate->setText(ShortDate(NewDate, Shared().locale));
+}
+
+void LDbase::EmptyNumberBoxes()
+{
+    for (InputBox* box : DYourNumIn) {
+        box->clear();
+    }
+}
+
+QStringList LDbase::NumberTexts() const
+{
+    QStringList texts;
+    const auto picks = static_cast<std::size_t>(Shared().database.Shape().picks);
+    for (std::size_t i = 0; i < picks; ++i) {
+        texts << DYourNumIn.at(i)->text();
+    }
+    return texts;
+}
+
+std::optional<Message> LDbase::LeaveDate(InputBox& box)
+{
+    const QString typed = box.text();
+    const std::optional<QDate> date = ParseShortDate(typed, Shared().locale);
+    NewDate = date.value_or(NewDate);
+    box.setText(ShortDate(NewDate, Shared().locale));
+    // A click empties the box: leaving it so is no mistake.
+    return date || typed.trimmed().isEmpty() ? std::nullopt
+                                             : std::optional<Message>(Message{.number = kNotAProperDate});
+}
+
+std::optional<Message> LDbase::LeaveShapeBox(InputBox& box, bool edited, int highest, int message,
+                                             const std::function<int()>& current)
+{
+    const QString before = ShapeText(current());
+    const double value = Val(box.text());
+    if (value < 1 || value > highest) {
+        box.setText(before);
+        return Message{.number = message};
+    }
+    if (!edited) {
+        return std::nullopt;
+    }
+    if (Shared().database.count != 0) {
+        box.setText(before);
+        return Message{.number = kDeleteAllFirst};
+    }
+    box.setText(RightJustify(Format(value, u"##"), 2));
+    BuildRecordsGrid();
+    return std::nullopt;
+}
+
+void LDbase::AddRecord()
+{
+    const QStringList boxes = NumberTexts();
+    if (RowIsEmpty(boxes)) {
+        Show(Shared(), Asking(), {.number = kNoRecordToAdd});
+        return;
+    }
+    if (!AllowDuplicates && CountDuplicatePairs(boxes) > 0) {
+        Show(Shared(), Asking(), {.number = kDuplicateNumbers});
+        return;
+    }
+    Shared().database.modified = 1; // before the row's own checks: asking once too often loses nothing
+    AddNewRow();
+}
+
+void LDbase::AddNewRow()
+{
+    DrawDatabase& database = Shared().database;
+    const QStringList boxes = NumberTexts();
+    if (IsFull(database)) {
+        Show(Shared(), Asking(), {.number = kMostRecords});
+        return;
+    }
+    if (const std::optional<EntryFault> fault = CheckNumbers(boxes, database.highest, kNewNumberIsZero)) {
+        Show(Shared(), Asking(), {.number = fault->message, .arg1 = fault->arg1});
+        return;
+    }
+    Asking().SetBusyPointer(true);
+    constexpr int kTooFewSpareRows = 4;
+    if (database.count + kTooFewSpareRows == m_records.GridRows()) {
+        BuildRecordsGrid();
+    }
+    database.Append(NewDate, NumbersIn(boxes));
+    FillRecordsGrid();
+    AdvanceDate();
+    EmptyNumberBoxes();
+    ComputeNumberStats(Shared());
+    ShowStatistics();
+    DYourNumIn.front()->setFocus();
+    Asking().SetBusyPointer(false);
+}
+
+void LDbase::DeleteAll()
+{
+    if (Ask(Shared(), Asking(), kGoBackAndSave)) {
+        return;
+    }
+    DrawDatabase& database = Shared().database;
+    const DrawDayTable drawDays = database.drawDays;
+    database.Empty();
+    database.drawDays = drawDays; // the lottery goes on drawing on its days
+    Shared().NumberStats = {};
+    Shared().sortedNumberStats = {};
+    Shared().topNumbersText = {};
+    m_ui->InFileName->clear();
+    m_ui->Label4->setText(FirstStatisticsLine());
+    EmptyNumberBoxes();
+    BuildRecordsGrid();
+    ClearAllCels();
+    AdvanceDate();
+}
+
+void LDbase::SwitchCount()
+{
+    Shared().WhichCnt = m_ui->WhichCnt->isChecked() ? CountMode::TimesDrawn : CountMode::SinceLastDrawn;
+    ClearAllCels();
+    FillRecordsGrid();
+    ComputeNumberStats(Shared());
+    ShowStatistics();
+}
+
+void LDbase::ToggleHelp()
+{
+    const bool opens = m_ui->HelpBoxD->isHidden();
+    m_ui->HelpBoxD->setVisible(opens);
+    m_ui->DGrid1->setVisible(!opens);
+    m_ui->DHelp->setText(opens ? u"Close &Help"_s : u"Quick &Help"_s);
+}
+
+void LDbase::CorrectRecord()
+{
+    if (Shared().database.count == 0) {
+        Show(Shared(), Asking(), {.number = kNoRecordToCorrect});
+    } else {
+        Switcher().TellComesLater(u"'Correct Record'"_s);
+    }
+}
+
+void LDbase::ShowGraph()
+{
+    if (Shared().database.count == 0) {
+        Show(Shared(), Asking(), {.number = kNoDataToGraph});
+        return;
+    }
+    Shared().graphCaller = kGraphFromEditor;
+    Switcher().ShowForm(FormName::LGraph);
+}
+
+void LDbase::Exit()
+{
+    Shared().editMode = EditMode::Normal;
+    Shared().SelectedRecord = 0;
+    Switcher().SetCaption(u" Quillaby Menu"_s);
+    Switcher().ShowForm(FormName::LotoMenu);
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "app/WorkingForm.h"
+#include "database/CountsModel.h"
+#include "database/RecordsModel.h"
+
+#include <QCheckBox>
+#include <QDate>
+
+#include <array>
+#include <memory>
+
+namespace Ui {
+class LDbase;
+}
+
+/// The database editor: shape, title and draw days of the lottery, its records newest first, the counts of
+/// its numbers, and the 'New' row in which the next draw is typed.
+class LDbase : public WorkingForm
+{
+    Q_OBJECT
+
+public:
+    LDbase(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QWidget* parent = nullptr);
+    ~LDbase() override;
+
+    void Load() override;
+
+    /// Empties the cells of the records and the statistics; the records themselves stay.
+    void ClearAllCels();
+    /// Shows the buttons again that MakInvisible hid.
+    void MakVisible();
+    /// Hides the buttons that cannot be used while a correction or insertion is pending.
+    void MakInvisible();
+
+private:
+    void SetUpGrids();
+    void SetUpInputs();
+    void SetUpNumberBoxes();
+    void ConnectCommands();
+
+    void BuildRecordsGrid();
+    void FillRecordsGrid();
+    void ShowStatistics();
+    void ShowShape();
+    void ShowDrawDays();
+    void AdvanceDate();
+    void EmptyNumberBoxes();
+    [[nodiscard]] QStringList NumberTexts() const;
+
+    [[nodiscard]] std::optional<Message> LeaveDate(InputBox& box);
+    [[nodiscard]] std::optional<Message> LeaveShapeBox(InputBox& box, bool edited, int highest, int message,
+                                                       const std::function<int()>& current);
+
+    void AddRecord();
+    void AddNewRow();
+    void DeleteAll();
+    void SwitchCount();
+    void ToggleHelp();
+    void CorrectRecord();
+    void ShowGraph();
+    void Exit();
+
+    std::unique_ptr<Ui::LDbase> m_ui;
+    RecordsModel m_records;
+    std::array<CountsModel, 3> m_counts;
+    std::array<InputBox*, kMostPicks> DYourNumIn{};
+    std::array<QCheckBox*, 7> DaysofWeek{};
+    QDate NewDate; ///< of the 'New' row
+    bool AllowDuplicates = false;
+};
