@@ -21,8 +21,12 @@ QString PartOrder(const QString& format)
     return order;
 }
 
-bool IsSeparator(QChar ch, const QString& format)
+bool IsSeparator(char32_t codePoint, const QString& format)
 {
+    if (QChar::requiresSurrogates(codePoint)) {
+        return false;
+    }
+    const QChar ch(codePoint);
     constexpr QStringView kAlways = u".-/ ";
     const bool letter = ch == u'd' || ch == u'M' || ch == u'y' || ch == u'\'';
     return kAlways.contains(ch) || ch.isSpace() || (!letter && format.contains(ch));
@@ -38,9 +42,9 @@ int SplitGroups(QStringView text, const QString& format, std::array<NumberGroup,
 {
     int count = 0;
     bool inGroup = false;
-    for (const QChar ch : text) {
-        const int digit = ch.digitValue(); // any script's digits: some locales write dates with their own
-        if (digit >= 0) {
+    // Any script's digits: some locales write dates with their own, a few with ones of two code units.
+    for (const char32_t ch : text.toUcs4()) {
+        if (QChar::isDigit(ch)) {
             if (!inGroup) {
                 if (++count > 3) {
                     return 0;
@@ -51,8 +55,8 @@ int SplitGroups(QStringView text, const QString& format, std::array<NumberGroup,
             if (++group.digits > 4) {
                 return 0;
             }
-            group.value = group.value * 10 + digit;
-        } else if (IsSeparator(ch, format) || ch.category() == QChar::Other_Format) {
+            group.value = group.value * 10 + QChar::digitValue(ch);
+        } else if (QChar::category(ch) == QChar::Other_Format || IsSeparator(ch, format)) {
             inGroup = false;
         } else {
             return 0;

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <locale>
+#include <sstream>
 
 namespace {
 
@@ -84,6 +86,22 @@ Digits RoundHalfAway(double magnitude, qsizetype decimals)
 bool IsDigit(QChar ch)
 {
     return ch >= u'0' && ch <= u'9';
+}
+
+/// The double nearest to a decimal number, the largest one for all beyond it.
+double NearestDouble(const QByteArray& number)
+{
+    bool inRange = false;
+    const double value = number.toDouble(&inRange);
+    if (inRange && std::isfinite(value)) {
+        return value;
+    }
+    // toDouble gives 0 or infinity here, by the version of Qt; a stream tells too large from too small.
+    std::istringstream stream(number.toStdString());
+    stream.imbue(std::locale::classic());
+    double nearest = 0;
+    stream >> nearest;
+    return std::clamp(nearest, std::numeric_limits<double>::lowest(), std::numeric_limits<double>::max());
 }
 
 } // namespace
@@ -167,10 +185,7 @@ double Val(QStringView text)
         }
     }
     number.truncate(lastGood);
-    if (number.isEmpty()) {
-        return 0;
-    }
-    return number.toDouble(); // 0 below the range of a double, infinite above it
+    return number.isEmpty() ? 0 : NearestDouble(number);
 }
 
 QString RightJustify(const QString& text, int width)

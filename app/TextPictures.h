@@ -23,7 +23,8 @@
 [[nodiscard]] QString Str(double value);
 
 /// The leading number of a text; blanks are skipped wherever they stand, "." is the decimal point in
-/// every locale, and an exponent counts. 0 when the text does not begin with a number.
+/// every locale, and an exponent counts. 0 when the text does not begin with a number; a number beyond the
+/// range of a double is the largest (or, negative, the lowest) one.
 [[nodiscard]] double Val(QStringView text);
 
 /// The text at the right end of a field of @p width blanks. A longer text keeps its leftmost @p width

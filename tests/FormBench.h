@@ -1,0 +1,64 @@
+#pragma once
+
+#include "app/MDIContainer.h"
+#include "database/LDbase.h"
+#include "tests/CannedPrompts.h"
+#include "tests/QtPrinters.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QLabel>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+/// A main window with all forms, an own shared state, an own program folder and prompts that answer by themselves.
+class FormBench : public testing::Test
+{
+protected:
+    FormBench();
+    ~FormBench() override;
+
+    /// Shows the window as at the program's start.
+    void Start();
+    /// Starts and shows the editor on the database as it is.
+    void OpenEditor();
+    /// A 6/49 database with draws on Wednesdays and Saturdays; record r holds r, r+1 .. r+5.
+    void FillDatabase(int records);
+
+    /// A widget of the window by its object name; a missing one ends the test.
+    template <typename Widget> Widget& Find(const QString& name)
+    {
+        auto* widget = m_window.findChild<Widget*>(name);
+        if (widget == nullptr) {
+            throw std::runtime_error("no widget " + name.toStdString());
+        }
+        return *widget;
+    }
+
+    void Click(const QString& button) { QTest::mouseClick(&Find<QAbstractButton>(button), Qt::LeftButton); }
+    /// Clicks where a check box has its box.
+    void ClickBox(const QString& checkBox)
+    {
+        auto& box = Find<QAbstractButton>(checkBox);
+        QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(8, box.height() / 2));
+    }
+    InputBox& Box(const QString& name) { return Find<InputBox>(name); }
+    InputBox& NumberBox(int i) { return Box(QStringLiteral("DYourNumIn%1").arg(i)); }
+    /// Puts the focus on a box without a click and types.
+    void TypeInto(const QString& box, const QString& text);
+    void TypeDraw(const QStringList& numbers);
+    QString TextOf(const QString& label) { return Find<QLabel>(label).text(); }
+    /// The text of a cell as the grid shows it.
+    QString Cell(const QString& grid, int row, int column);
+    /// Lets queued events run.
+    static void Settle() { QCoreApplication::processEvents(); }
+
+    QTemporaryDir m_folder;
+    QString m_oldFolder = QDir::currentPath();
+    LGLOBAL m_shared;
+    CannedPrompts m_prompts{m_shared};
+    MDIContainer m_window{m_shared, m_prompts, m_folder.path()};
+};

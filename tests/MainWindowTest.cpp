@@ -1,0 +1,368 @@
+#include "tests/FormBench.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QFile>
+#include <QPushButton>
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class MainWindow : public FormBench
+{
+protected:
+    void WriteFile(const QString& name, const QByteArray& bytes)
+    {
+        QFile file(m_folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(bytes), bytes.size());
+    }
+
+    QPushButton& Button(const QString& name) { return Find<QPushButton>(name); }
+    QString FrontForm() const { return m_window.ActiveForm() == nullptr ? QString() : m_window.ActiveForm()->objectName(); }
+};
+
+const QByteArray kTwoDraws = "2,8,49,\"Lotto 6/49\"\r\n,0\r\n,0\r\n,0\r\n,4\r\n,0\r\n,0\r\n,7\r\n,0\r\n,0\r\n,0\r\n"
+                             "1,#2004-03-10#,5,12,23,34,41,49,0,0,0,0\r\n"
+                             "2,#2004-03-13#,3,8,19,27,30,44,0,0,0,0\r\n";
+
+TEST_F(MainWindow, OpensOnTheMenuAtTheUpperLeftInItsSize)
+{
+    Start();
+    EXPECT_EQ(m_window.objectName(), u"MDIContainer"_s);
+    EXPECT_EQ(m_window.windowTitle(), u" Quillaby Menu"_s);
+    EXPECT_EQ(m_window.pos(), QPoint(0, 0));
+    EXPECT_EQ(m_window.size(), QSize(641, 458));
+    EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
+    EXPECT_EQ(TextOf(u"Label2"_s), u"Quillaby System"_s);
+    EXPECT_EQ(TextOf(u"InfoLabel"_s), QString());
+    EXPECT_EQ(QDir::currentPath(), QDir(m_folder.path()).canonicalPath());
+}
+
+TEST_F(MainWindow, TheMenuHasItsTwelveButtons)
+{
+    const QList<QPair<QString, QString>> expected{
+        {u"DBaseForm"_s, u"&View and Edit Database"_s},
+        {u"LoadFile"_s, u"&Open a File from Disk"_s},
+        {u"SaveFile"_s, u"&Save File to Disk"_s},
+        {u"PickForm"_s, u"&Selectorium"_s},
+        {u"CheckWin"_s, u"Check &Winners"_s},
+        {u"ShowGraph1"_s, u"Show &Graphs"_s},
+        {u"SelectRec"_s, u"&Extract between two Dates"_s},
+        {u"InvTrack"_s, u"&Investment Tracker"_s},
+        {u"PtrFnt"_s, u"Persona&lize Settings"_s},
+        {u"PrintDbase"_s, u"Print &Current Database"_s},
+        {u"HowtoUse"_s, u"How to &Use the Program"_s},
+        {u"Exit1Butt"_s, u"E&xit from Program"_s},
+    };
+    for (const auto& [name, caption] : expected) {
+        EXPECT_EQ(Button(name).text(), caption) << name.toStdString();
+    }
+    EXPECT_EQ(m_window.findChildren<QPushButton*>().size(), expected.size());
+}
+
+TEST_F(MainWindow, AnAccessKeyPressesItsButton)
+{
+    Start();
+    for (const QString& name : {u"DBaseForm"_s, u"LoadFile"_s, u"CheckWin"_s, u"ShowGraph1"_s, u"SelectRec"_s,
+                                u"InvTrack"_s, u"PtrFnt"_s, u"PrintDbase"_s, u"HowtoUse"_s, u"Exit1Butt"_s}) {
+        QPushButton& button = Button(name);
+        button.disconnect(SIGNAL(clicked(bool)));
+        QSignalSpy clicked(&button, &QPushButton::clicked);
+        const QString caption = button.text();
+        const QChar key = caption.at(caption.indexOf(u'&') + 1).toUpper();
+        QTest::keyClick(&m_window, static_cast<Qt::Key>(key.unicode()), Qt::AltModifier);
+        EXPECT_TRUE(clicked.count() == 1 || clicked.wait(1000)) << name.toStdString();
+    }
+}
+
+TEST_F(MainWindow, TheKeySharedByTwoButtonsWalksBetweenThemAndEnterPresses)
+{
+    Start();
+    QTest::keyClick(&m_window, Qt::Key_S, Qt::AltModifier);
+    const QString first = m_window.focusWidget()->objectName();
+    QTest::keyClick(&m_window, Qt::Key_S, Qt::AltModifier);
+    const QString second = m_window.focusWidget()->objectName();
+    EXPECT_EQ(QStringList({first, second}).filter(u"SaveFile"_s).size(), 1);
+    EXPECT_EQ(QStringList({first, second}).filter(u"PickForm"_s).size(), 1);
+    Button(u"SaveFile"_s).setFocus();
+    m_prompts.expectedMessages = {15};
+    QTest::keyClick(&Button(u"SaveFile"_s), Qt::Key_Return);
+}
+
+TEST_F(MainWindow, WithoutRecordsThreeFormsAndThePrintoutAreRefusedAndTheMenuStays)
+{
+    Start();
+    for (const QString& name : {u"CheckWin"_s, u"ShowGraph1"_s, u"SelectRec"_s, u"PrintDbase"_s}) {
+        m_prompts.expectedMessages = {44};
+        Click(name);
+        EXPECT_TRUE(m_prompts.expectedMessages.empty()) << name.toStdString();
+        EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
+    }
+    EXPECT_EQ(m_shared.graphCaller, 0);
+    EXPECT_EQ(m_prompts.shownTexts.first(),
+              u"No records to work with. Either start a new Database in 'View and Edit Database' or 'Open a File "
+              "from Disk'. Open the Sample.Lto file to learn and use all the features. Be sure to read 'How to Use "
+              "the Program'."_s);
+}
+
+TEST_F(MainWindow, AButtonWhoseFormComesLaterSaysSoAndTheMenuStays)
+{
+    Start();
+    FillDatabase(1);
+    const QStringList later{u"PickForm"_s, u"CheckWin"_s, u"ShowGraph1"_s, u"SelectRec"_s,
+                            u"InvTrack"_s, u"PtrFnt"_s,   u"PrintDbase"_s, u"HowtoUse"_s};
+    for (const QString& name : later) {
+        m_prompts.notices.clear();
+        Click(name);
+        ASSERT_EQ(m_prompts.notices.size(), 1) << name.toStdString();
+        EXPECT_TRUE(m_prompts.notices.first().contains(u"not part of this version yet"_s));
+        EXPECT_TRUE(m_prompts.notices.first().contains(Button(name).text().remove(u'&')))
+            << m_prompts.notices.first().toStdString();
+        EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
+        EXPECT_TRUE(Button(name).isVisible());
+    }
+    EXPECT_EQ(m_shared.graphCaller, 1);
+}
+
+TEST_F(MainWindow, TheEditorTakesTheMenusPlaceAndGivesItBack)
+{
+    Start();
+    Click(u"DBaseForm"_s);
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+    EXPECT_FALSE(Button(u"DBaseForm"_s).isVisible());
+    EXPECT_EQ(m_window.windowTitle(), u" View and Edit Database Records"_s);
+    Click(u"DExit"_s);
+    EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
+    EXPECT_TRUE(Button(u"DBaseForm"_s).isVisible());
+    EXPECT_EQ(m_window.windowTitle(), u" Quillaby Menu"_s);
+}
+
+TEST_F(MainWindow, TheEditorIsMadeOnceAndUsedAgain)
+{
+    Start();
+    Click(u"DBaseForm"_s);
+    const WorkingForm* editor = m_window.ActiveForm();
+    Click(u"DExit"_s);
+    Click(u"DBaseForm"_s);
+    EXPECT_EQ(m_window.ActiveForm(), editor);
+}
+
+TEST_F(MainWindow, OpeningAFileShowsTheEditorAndTheMenuNamesTheFile)
+{
+    WriteFile(u"Mine.Lto"_s, kTwoDraws);
+    Start();
+    m_prompts.files = {m_folder.filePath(u"Mine.Lto"_s)};
+    Click(u"LoadFile"_s);
+    EXPECT_EQ(m_prompts.fileDialogModes, (std::deque<qint16>{1}));
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+    EXPECT_EQ(m_shared.database.count, 2);
+    EXPECT_EQ(m_shared.database.fileName, u"Mine.Lto"_s);
+    EXPECT_EQ(m_shared.fileDialogMode, 0);
+    EXPECT_EQ(m_shared.chosenPath, QString());
+    Click(u"DExit"_s);
+    EXPECT_EQ(TextOf(u"InfoLabel"_s), u" File in Memory \r\n  Lotto 6/49  "_s);
+}
+
+TEST_F(MainWindow, ATitleWithMarkupIsShownAsItStands)
+{
+    Start();
+    FillDatabase(1);
+    m_shared.database.title = u"<b>6</b>&49"_s;
+    Click(u"DBaseForm"_s);
+    Click(u"DExit"_s);
+    EXPECT_EQ(TextOf(u"InfoLabel"_s), u" File in Memory \r\n  <b>6</b>&49  "_s);
+    EXPECT_EQ(Find<QLabel>(u"InfoLabel"_s).textFormat(), Qt::PlainText);
+}
+
+TEST_F(MainWindow, ACancelledDialogShowsTheEditorOnTheDatabaseInMemory)
+{
+    Start();
+    FillDatabase(3);
+    m_prompts.files = {QString()};
+    Click(u"LoadFile"_s);
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+    EXPECT_EQ(m_shared.database.count, 3);
+    EXPECT_EQ(m_shared.fileDialogMode, 0);
+}
+
+TEST_F(MainWindow, AMissingFileGivesTheMessageAndTheEditorOnAnEmptyDatabase)
+{
+    Start();
+    FillDatabase(3);
+    m_shared.database.modified = 1;
+    m_prompts.files = {m_folder.filePath(u"Nowhere.Lto"_s)};
+    m_prompts.expectedMessages = {13};
+    Click(u"LoadFile"_s);
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+    EXPECT_EQ(m_shared.database.count, 0);
+    EXPECT_EQ(m_shared.database.modified, 0);
+    EXPECT_EQ(Box(u"InFileName"_s).text(), QString());
+    EXPECT_EQ(m_shared.database.columns, 8);
+}
+
+TEST_F(MainWindow, SavingReturnsToTheMenuAndTheFileReadsBackTheSame)
+{
+    Start();
+    FillDatabase(3);
+    m_shared.database.modified = 1;
+    m_prompts.files = {m_folder.filePath(u"New.Lto"_s)};
+    Click(u"SaveFile"_s);
+    EXPECT_EQ(m_prompts.fileDialogModes, (std::deque<qint16>{2}));
+    EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
+    EXPECT_EQ(m_shared.database.fileName, u"New.Lto"_s);
+    EXPECT_EQ(m_shared.database.modified, 0);
+    const DrawDatabase saved = m_shared.database;
+    m_prompts.files = {m_folder.filePath(u"New.Lto"_s)};
+    Click(u"LoadFile"_s);
+    EXPECT_EQ(m_shared.database.count, 3);
+    EXPECT_EQ(m_shared.database.title, saved.title);
+    EXPECT_EQ(std::get<QDate>(m_shared.database.records[3].date), std::get<QDate>(saved.records[3].date));
+    EXPECT_EQ(CellNumber(m_shared.database.records[3].drawn[5]), 8);
+}
+
+TEST_F(MainWindow, SavingAnEmptyDatabaseSaysNoRecordsAndShowsTheMenu)
+{
+    Start();
+    m_shared.database.modified = 1;
+    m_prompts.expectedMessages = {15};
+    Click(u"SaveFile"_s);
+    EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
+    EXPECT_EQ(m_shared.database.modified, 0);
+}
+
+TEST_F(MainWindow, AFileNamedAtTheStartOpensWithoutADialog)
+{
+    WriteFile(u"Named.Lto"_s, kTwoDraws);
+    Start();
+    m_window.Menu().OpenNamedFile(m_folder.filePath(u"Named.Lto"_s));
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+    EXPECT_EQ(m_shared.database.fileName, u"Named.Lto"_s);
+}
+
+TEST_F(MainWindow, TheUsersNameStandsInTheMenuWhenThereIsOne)
+{
+    WriteFile(u"Personal.Lot"_s, "0,5,36,2,\"EUR\",\"Zo\xEB\"\r\n");
+    Start();
+    EXPECT_TRUE(Find<QLabel>(u"MyName"_s).isVisible());
+    EXPECT_EQ(TextOf(u"MyName"_s), u"Zoë"_s);
+    EXPECT_EQ(m_shared.database.columns, 7);
+    EXPECT_EQ(m_shared.database.highest, 36);
+}
+
+TEST_F(MainWindow, WithoutANameItsLabelIsHidden)
+{
+    Start();
+    EXPECT_FALSE(Find<QLabel>(u"MyName"_s).isVisible());
+}
+
+TEST_F(MainWindow, ExitWithUnsavedRecordsAsksAndYesStays)
+{
+    Start();
+    FillDatabase(1);
+    m_shared.database.modified = 1;
+    m_prompts.answers = {true};
+    Click(u"Exit1Butt"_s);
+    EXPECT_EQ(m_prompts.askedTexts,
+              QStringList{
+                  u"Test.Lto file in memory will be erased. Do you wish to go back and save it to Disk?."_s});
+    EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
+    EXPECT_TRUE(m_window.isVisible());
+    EXPECT_EQ(m_shared.database.modified, 1);
+}
+
+TEST_F(MainWindow, ExitWithUnsavedRecordsEndsAfterNo)
+{
+    Start();
+    FillDatabase(1);
+    m_shared.database.modified = 1;
+    m_prompts.answers = {false};
+    QTimer::singleShot(0, &m_window, [this] { Click(u"Exit1Butt"_s); });
+    QTimer::singleShot(5000, &m_window, [] { QCoreApplication::exit(99); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_EQ(m_shared.database.modified, 0);
+}
+
+TEST_F(MainWindow, ExitWithoutRecordsEndsWithoutAQuestion)
+{
+    Start();
+    m_shared.database.modified = 1;
+    QTimer::singleShot(0, &m_window, [this] { Click(u"Exit1Butt"_s); });
+    QTimer::singleShot(5000, &m_window, [] { QCoreApplication::exit(99); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_EQ(m_prompts.askedTexts, QStringList{});
+}
+
+TEST_F(MainWindow, ClosingTheWindowAsksAlsoFromTheEditor)
+{
+    FillDatabase(1);
+    OpenEditor();
+    m_shared.database.modified = 1;
+    m_prompts.answers = {true};
+    EXPECT_FALSE(m_window.close());
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+    m_prompts.answers = {false};
+    EXPECT_TRUE(m_window.close());
+    EXPECT_EQ(m_shared.database.modified, 0);
+}
+
+TEST_F(MainWindow, ClosingTheWindowWithNothingUnsavedJustCloses)
+{
+    Start();
+    FillDatabase(1);
+    EXPECT_TRUE(m_window.close());
+}
+
+TEST_F(MainWindow, TheLayoutIsLargeAboveEightThousandFiveHundredTwips)
+{
+    Start();
+    EXPECT_EQ(m_shared.layoutSize, 6810);
+    m_window.resize(900, 566); // 8,490 twips
+    Settle();
+    EXPECT_EQ(m_shared.layoutSize, 6810);
+    m_window.resize(900, 567); // 8,505 twips
+    Settle();
+    EXPECT_EQ(m_shared.layoutSize, 8670);
+}
+
+TEST_F(MainWindow, FormsStandAtTheirPlacesInBothLayouts)
+{
+    Start();
+    auto& menu = Find<QWidget>(u"LotoMenu"_s);
+    EXPECT_EQ(menu.pos(), QPoint(-2, -1));
+    Click(u"DBaseForm"_s);
+    auto& editor = Find<QWidget>(u"LDbase"_s);
+    EXPECT_EQ(editor.pos(), QPoint(-4, -2));
+    m_window.resize(1280, 800);
+    Settle();
+    EXPECT_EQ(editor.pos(), QPoint(80, 67));
+    EXPECT_EQ(editor.size(), QSize(1280 - 160, 800 - 134));
+    Click(u"DExit"_s);
+    EXPECT_EQ(menu.pos(), QPoint(67, 67));
+    m_window.resize(1200, 700); // a resized window moves the menu where it moves every form
+    Settle();
+    EXPECT_EQ(menu.pos(), QPoint(80, 67));
+    m_window.resize(641, 458);
+    Settle();
+    EXPECT_EQ(menu.pos(), QPoint(-4, -2));
+}
+
+TEST_F(MainWindow, EveryControlOfTheMenuAndTheEditorFitsTheOpeningSize)
+{
+    FillDatabase(30);
+    m_shared.database.columns = 12;
+    OpenEditor();
+    EXPECT_EQ(m_window.size(), QSize(641, 458));
+    const QRect inside = m_window.rect();
+    for (const QWidget* widget : Find<QWidget>(u"LDbase"_s).findChildren<QWidget*>()) {
+        if (widget->isVisible() && widget->parentWidget() == &Find<QWidget>(u"LDbase"_s)) {
+            const QRect place(widget->mapTo(&m_window, QPoint()), widget->size());
+            EXPECT_TRUE(inside.contains(place)) << widget->objectName().toStdString();
+            EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << widget->objectName().toStdString();
+        }
+    }
+}
+
+} // namespace
