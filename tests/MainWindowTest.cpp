@@ -246,6 +246,7 @@ TEST_F(MainWindow, AFileNamedAtTheStartOpensWithoutADialog)
     m_window.Menu().OpenNamedFile(m_folder.filePath(u"Named.Lto"_s));
     EXPECT_EQ(FrontForm(), u"LDbase"_s);
     EXPECT_EQ(m_shared.database.fileName, u"Named.Lto"_s);
+    EXPECT_EQ(m_shared.dialogFolder, m_folder.path());
 }
 
 TEST_F(MainWindow, TheUsersNameStandsInTheMenuWhenThereIsOne)
