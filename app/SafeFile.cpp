@@ -98,6 +98,21 @@ bool LeadsInACircle(QFileInfo link)
     return link.isSymLink();
 }
 
+/// Writes everything, however many calls that takes: a disk that fills up first takes a part without
+/// complaint, and only the next call says why.
+bool WriteAll(QSaveFile& file, const QByteArray& bytes)
+{
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const qint64 more = file.write(bytes.constData() + written, bytes.size() - written);
+        if (more <= 0) {
+            return false;
+        }
+        written += more;
+    }
+    return true;
+}
+
 Outcome WriteAndCommit(const QString& path, const QByteArray& bytes)
 {
     // setDirectWriteFallback stays off: it would write over the old file in place.
@@ -105,9 +120,15 @@ Outcome WriteAndCommit(const QString& path, const QByteArray& bytes)
     if (!file.open(QIODevice::WriteOnly)) {
         return Outcome::Failure(file.errorString());
     }
+    // The new file has the permissions of the old one, and none at all when those could not be asked for.
+    if (!file.permissions().testFlags(QFile::ReadOwner | QFile::WriteOwner)) {
+        file.cancelWriting();
+        file.commit();
+        return Outcome::Failure(u"The permissions of the old file cannot be kept."_s);
+    }
     // commit() alone looks only at the write error and forgets what its own flush finds, so that a full disk
     // would put an empty file in the place of the old one. Every step is therefore made and asked here.
-    if (file.write(bytes) != bytes.size() || !file.flush() || file.error() != QFileDevice::NoError) {
+    if (!WriteAll(file, bytes) || !file.flush() || file.error() != QFileDevice::NoError) {
         const QString reason = file.errorString(); // before commit, which replaces it
         file.cancelWriting();
         file.commit();
