@@ -534,7 +534,8 @@ TEST(LotteryFile, RecordsAreNumberedByTheirRowWhateverTheFileSays)
 
 TEST(LotteryFile, ARecordNumberBeyondTheTableIsRefused)
 {
-    for (const char* number : {"-1", "2003", "32768", "99999999999", "-1e30", "\"2003\"", "-0.5", "2002.5"}) {
+    for (const char* number :
+         {"-1", "2003", "32768", "99999999999", "1e400", "-1e400", "\"2003\"", "-0.5", "2002.5"}) {
         const QByteArray record = QByteArray(number) + ",#2004-03-10#,5,12,23,34,41,49,0,0,0,0";
         EXPECT_EQ(WhyRefused(WithFirstRecord(record)), u"Record 1 carries a number that no database has."_s)
             << number;

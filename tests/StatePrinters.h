@@ -2,24 +2,13 @@
 
 #include "app/AppSettings.h"
 #include "app/DrawDatabase.h"
+#include "tests/QtPrinters.h"
 
 #include <QByteArray>
-#include <QDate>
-#include <QString>
 
 #include <ostream>
 
-// How GoogleTest shows our values when an expectation fails.
-
-inline void PrintTo(const QString& text, std::ostream* out)
-{
-    *out << '"' << text.toStdString() << '"';
-}
-
-inline void PrintTo(const QDate& date, std::ostream* out)
-{
-    *out << date.toString(Qt::ISODate).toStdString();
-}
+// How GoogleTest writes our values into a failure.
 
 inline void PrintTo(const QByteArray& bytes, std::ostream* out)
 {
