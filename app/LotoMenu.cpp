@@ -4,6 +4,8 @@
 #include "app/StartUp.h"
 #include "ui_LotoMenu.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -97,6 +99,7 @@ void LotoMenu::ShowFileInMemory()
 
 void LotoMenu::OpenNamedFile(const QString& path)
 {
+    Shared().dialogFolder = QFileInfo(path).absolutePath(); // where the user will look for it when saving
     Switcher().HideForm();
     OpenLotteryFile(Shared(), Asking(), path);
     Switcher().ShowForm(FormName::LDbase);

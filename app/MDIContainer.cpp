@@ -154,6 +154,14 @@ bool MDIContainer::eventFilter(QObject* watched, QEvent* event)
     return QMainWindow::eventFilter(watched, event);
 }
 
+void MDIContainer::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (m_active != nullptr) { // now that the stage has its size
+        MoveForm(m_active, m_active->FrontPlace());
+    }
+}
+
 void MDIContainer::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(MayEndProgram(m_shared, m_prompts));

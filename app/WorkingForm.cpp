@@ -2,6 +2,8 @@
 
 #include <QTimer>
 
+#include <utility>
+
 WorkingForm::WorkingForm(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QWidget* parent)
     : QWidget(parent), m_shared(shared), m_prompts(prompts), m_switcher(switcher)
 {
@@ -29,9 +31,12 @@ void WorkingForm::WatchInputBoxes()
 
 void WorkingForm::OnClick(QAbstractButton* button, const std::function<void()>& command)
 {
-    connect(button, &QAbstractButton::pressed, button, [button] { button->setFocus(Qt::OtherFocusReason); });
+    connect(button, &QAbstractButton::pressed, this, [this, button] {
+        button->setFocus(Qt::OtherFocusReason);
+        m_pressAbandoned = !m_dueMessages.empty();
+    });
     connect(button, &QAbstractButton::clicked, this, [this, command] {
-        if (m_dueMessages.empty() && !m_showingMessages) {
+        if (!std::exchange(m_pressAbandoned, false) && !m_showingMessages) {
             command();
         }
     });

@@ -55,4 +55,5 @@ private:
     FormSwitcher& m_switcher;
     std::deque<Message> m_dueMessages;
     bool m_showingMessages = false;
+    bool m_pressAbandoned = false; ///< the button that is down was reached past a box whose message is due
 };

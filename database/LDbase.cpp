@@ -37,9 +37,9 @@ QString FirstStatisticsLine()
     return u"Showing the number of times drawn"_s;
 }
 
-QString ShapeText(int value)
+QString ShapeText(double value)
 {
-    return RightJustify(Format(value, u"##"), 2);
+    return Format(value, u"##").rightJustified(2); // never cut: a shape from a file may have more digits
 }
 
 } // namespace
@@ -52,7 +52,6 @@ LDbase::LDbase(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QWidge
 {
     m_ui->setupUi(this);
     m_ui->HelpBoxD->setPlainText(EditorHelpText());
-    m_ui->HelpBoxD->hide();
     SetUpGrids();
     SetUpInputs();
     SetUpNumberBoxes();
@@ -133,7 +132,7 @@ void LDbase::ConnectCommands()
     OnClick(m_ui->DCorrectRec, [this] { CorrectRecord(); });
     OnClick(m_ui->DDeleteAll, [this] { DeleteAll(); });
     OnClick(m_ui->DGraphs, [this] { ShowGraph(); });
-    OnClick(m_ui->DHelp, [this] { ToggleHelp(); });
+    OnClick(m_ui->DHelp, [this] { ShowHelp(m_ui->HelpBoxD->isHidden()); });
     OnClick(m_ui->DExit, [this] { Exit(); });
     OnClick(m_ui->WhichCnt, [this] { SwitchCount(); });
     OnClick(m_ui->Duponoff, [this] { AllowDuplicates = m_ui->Duponoff->isChecked(); });
@@ -161,6 +160,7 @@ void LDbase::Load()
     shared.topNumbersText = {};
     m_ui->Label4->setText(FirstStatisticsLine());
 
+    ShowHelp(false);
     m_ui->InFileName->setText(shared.database.title);
     ShowShape();
     m_ui->WhichCnt->setChecked(true);
@@ -344,7 +344,7 @@ std::optional<Message> LDbase::LeaveShapeBox(InputBox& box, bool edited, int hig
         box.setText(before);
         return Message{.number = kDeleteAllFirst};
     }
-    box.setText(RightJustify(Format(value, u"##"), 2));
+    box.setText(ShapeText(value));
     BuildRecordsGrid();
     return std::nullopt;
 }
@@ -420,9 +420,8 @@ void LDbase::SwitchCount()
     ShowStatistics();
 }
 
-void LDbase::ToggleHelp()
+void LDbase::ShowHelp(bool opens)
 {
-    const bool opens = m_ui->HelpBoxD->isHidden();
     m_ui->HelpBoxD->setVisible(opens);
     m_ui->DGrid1->setVisible(!opens);
     m_ui->DHelp->setText(opens ? u"Close &Help"_s : u"Quick &Help"_s);

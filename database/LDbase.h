@@ -56,7 +56,7 @@ private:
     void AddNewRow();
     void DeleteAll();
     void SwitchCount();
-    void ToggleHelp();
+    void ShowHelp(bool opens);
     void CorrectRecord();
     void ShowGraph();
     void Exit();

@@ -1,5 +1,5 @@
-#include "app/AllYesNo.h"
 #include "app/AMsgbox.h"
+#include "app/AllYesNo.h"
 #include "app/DialogPrompts.h"
 #include "app/FileDir.h"
 #include "app/Prompts.h"
@@ -20,7 +20,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
-
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -126,7 +125,8 @@ struct Answering {
 TEST_F(Dialogs, AQuestionIsAnsweredByItsButtonsAndAnUnansweredOneLosesNothing)
 {
     const auto click = [](const QString& name) {
-        return [name](QWidget* box) { QTest::mouseClick(box->findChild<QPushButton*>(name), Qt::LeftButton); };
+        return
+            [name](QWidget* box) { QTest::mouseClick(box->findChild<QPushButton*>(name), Qt::LeftButton); };
     };
     const auto escape = [](QWidget* box) { QTest::keyClick(box, Qt::Key_Escape); };
     const auto close = [](QWidget* box) { box->close(); };
@@ -152,8 +152,9 @@ TEST_F(Dialogs, AQuestionShowsItsTextAndItsAccessKeysAnswerIt)
         EXPECT_EQ(box->objectName(), u"AllYesNo"_s);
         EXPECT_EQ(box->windowTitle(), u"Help"_s);
         auto* text = box->findChild<QLabel*>(u"Label1"_s);
-        EXPECT_EQ(text->text(),
-                  u"A&B <b>.Lto file in memory will be erased. Do you wish to go back and save it to Disk?."_s);
+        EXPECT_EQ(
+            text->text(),
+            u"A&B <b>.Lto file in memory will be erased. Do you wish to go back and save it to Disk?."_s);
         EXPECT_EQ(text->textFormat(), Qt::PlainText);
         EXPECT_EQ(box->findChild<QPushButton*>(u"AllYes"_s)->text(), u"&Yes"_s);
         EXPECT_EQ(box->findChild<QPushButton*>(u"AllNo"_s)->text(), u"&No"_s);
@@ -171,7 +172,10 @@ TEST_F(Dialogs, DialogsStandAtTheirDistanceFromTheMainWindow)
         bool question;
         qint32 layout;
         QPoint offset;
-    } cases[] = {{false, 6810, {240, 133}}, {false, 8670, {310, 200}}, {true, 6810, {233, 133}}, {true, 8670, {300, 200}}};
+    } cases[] = {{false, 6810, {240, 133}},
+                 {false, 8670, {310, 200}},
+                 {true, 6810, {233, 133}},
+                 {true, 8670, {300, 200}}};
     for (const auto& expected : cases) {
         m_shared.layoutSize = expected.layout;
         WhenModalOpens([&](QWidget* box) {
@@ -264,7 +268,7 @@ TEST_F(FileDialogs, OpeningStartsOnTheFileInMemoryAndReturnsTheFullPath)
         EXPECT_EQ(dialog->nameFilters(), QStringList{u"Lottery Database (*.Lto)"_s});
         EXPECT_EQ(dialog->directory().absolutePath(), m_folder.path());
         EXPECT_EQ(dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->text(), u"Mine.Lto"_s);
-        dialog->accept();
+        QMetaObject::invokeMethod(dialog, "accept");
     });
     m_prompts.FileDirectory();
     EXPECT_EQ(m_shared.chosenPath, m_folder.filePath(u"Mine.Lto"_s));
@@ -279,7 +283,7 @@ TEST_F(FileDialogs, SavingTakesTheNameAsItIsTyped)
         ASSERT_NE(dialog, nullptr);
         EXPECT_EQ(dialog->acceptMode(), QFileDialog::AcceptSave);
         dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(u"no ending"_s);
-        dialog->accept();
+        QMetaObject::invokeMethod(dialog, "accept");
     });
     m_prompts.FileDirectory();
     EXPECT_EQ(m_shared.chosenPath, m_folder.filePath(u"no ending"_s));
@@ -304,7 +308,7 @@ TEST_F(FileDialogs, TheNextDialogOpensInTheFolderOfTheLastFile)
         auto* dialog = qobject_cast<QFileDialog*>(window);
         ASSERT_NE(dialog, nullptr);
         dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(other.filePath(u"Elsewhere.Lto"_s));
-        dialog->accept();
+        QMetaObject::invokeMethod(dialog, "accept");
     });
     m_prompts.FileDirectory();
     EXPECT_EQ(m_shared.dialogFolder, other.path());

@@ -14,7 +14,8 @@ FormBench::FormBench()
 FormBench::~FormBench()
 {
     Settle();
-    EXPECT_TRUE(m_prompts.expectedMessages.empty()) << "a message did not come: " << m_prompts.expectedMessages.front();
+    EXPECT_TRUE(m_prompts.expectedMessages.empty())
+        << "a message did not come: " << m_prompts.expectedMessages.front();
     EXPECT_TRUE(m_prompts.answers.empty()) << "a question was not asked";
     EXPECT_TRUE(m_prompts.files.empty()) << "a file was not asked for";
     EXPECT_FALSE(m_prompts.busy) << "the busy pointer was left on";

@@ -11,10 +11,10 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
-
 #include <gtest/gtest.h>
 
-/// A main window with all forms, an own shared state, an own program folder and prompts that answer by themselves.
+/// A main window with all forms, an own shared state, an own program folder and prompts that answer by
+/// themselves.
 class FormBench : public testing::Test
 {
 protected:
@@ -28,10 +28,15 @@ protected:
     /// A 6/49 database with draws on Wednesdays and Saturdays; record r holds r, r+1 .. r+5.
     void FillDatabase(int records);
 
-    /// A widget of the window by its object name; a missing one ends the test.
-    template <typename Widget> Widget& Find(const QString& name)
+    /// A widget by its object name, of the form that is shown before others; a missing one ends the test.
+    template <typename Widget>
+    Widget& Find(const QString& name)
     {
-        auto* widget = m_window.findChild<Widget*>(name);
+        auto* widget =
+            m_window.ActiveForm() == nullptr ? nullptr : m_window.ActiveForm()->findChild<Widget*>(name);
+        if (widget == nullptr) {
+            widget = m_window.findChild<Widget*>(name);
+        }
         if (widget == nullptr) {
             throw std::runtime_error("no widget " + name.toStdString());
         }

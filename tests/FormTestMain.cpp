@@ -1,11 +1,12 @@
-#include <gtest/gtest.h>
-
 #include <QApplication>
-
 #include <QLocale>
+#include <gtest/gtest.h>
 
 int main(int argc, char* argv[])
 {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     testing::InitGoogleTest(&argc, argv);
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     const QApplication application(argc, argv);

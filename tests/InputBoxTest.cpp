@@ -1,4 +1,5 @@
 #include "app/InputBox.h"
+
 #include "tests/QtPrinters.h"
 
 #include <QApplication>
@@ -8,7 +9,6 @@
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWidget>
-
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -37,6 +37,8 @@ protected:
         m_window.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
         m_other.setFocus();
+        m_box.clear();
+        m_due.clear();
     }
 
     void FollowOneToTen()

@@ -1,6 +1,5 @@
-#include "tests/FormBench.h"
-
 #include "app/ShortDate.h"
+#include "tests/FormBench.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -74,8 +73,9 @@ TEST_F(Editor, HasItsCaptionsFramesAndLabels)
 {
     OpenEditor();
     const QList<QPair<QString, QString>> buttons{
-        {u"DCalc"_s, u"&Add Record"_s},   {u"DCorrectRec"_s, u"Correct &Record"_s}, {u"DDeleteAll"_s, u"&Delete All"_s},
-        {u"DGraphs"_s, u"&Show Graph"_s}, {u"DHelp"_s, u"Quick &Help"_s},           {u"DExit"_s, u"E&xit to Menu"_s},
+        {u"DCalc"_s, u"&Add Record"_s},      {u"DCorrectRec"_s, u"Correct &Record"_s},
+        {u"DDeleteAll"_s, u"&Delete All"_s}, {u"DGraphs"_s, u"&Show Graph"_s},
+        {u"DHelp"_s, u"Quick &Help"_s},      {u"DExit"_s, u"E&xit to Menu"_s},
     };
     for (const auto& [name, caption] : buttons) {
         EXPECT_EQ(Find<QPushButton>(name).text(), caption);
@@ -212,9 +212,10 @@ TEST_F(Editor, TheCheckBoxSwitchesToDrawsSinceLastDrawnAndBack)
     EXPECT_EQ(Cell(u"DGrid2"_s, 0, 0), u"1"_s); // drawn one draw ago
     EXPECT_EQ(Cell(u"DGrid2"_s, 0, 1), u"0"_s); // in the last draw
     EXPECT_EQ(Cell(u"DGrid2"_s, 0, 7), u"2"_s); // never
-    EXPECT_TRUE(TextOf(u"Label4"_s).startsWith(
-        u"Number of draws since last drawn/not drawn. Top  6 =   8   9   10   11   12   13  "_s))
-        << TextOf(u"Label4"_s).toStdString();
+    // Of the equal ones 8 to 49 the lowest have not all come to the front: the ties are passed over five
+    // times only.
+    EXPECT_EQ(TextOf(u"Label4"_s),
+              u"Number of draws since last drawn/not drawn. Top  6 =   25   26   8   9   10   11  "_s);
     EXPECT_EQ(Cell(u"DGrid1"_s, 0, 0), u"   2"_s);
     ClickBox(u"WhichCnt"_s);
     EXPECT_EQ(m_shared.WhichCnt, CountMode::TimesDrawn);
@@ -350,8 +351,12 @@ TEST_F(Editor, RefusesARowWithTheFirstMessageThatFitsAndKeepsItForCorrection)
         {{u"5"_s, u"5"_s, u"3"_s, u"4"_s, u"1"_s, u"6"_s}, 37, u"Correct: duplicate numbers."_s},
         {{u"5"_s, u"3"_s, u""_s, u"99"_s, u"05"_s, u""_s}, 37, u"Correct: duplicate numbers."_s},
         {{u"1"_s, u"2"_s, u"3"_s, u""_s, u"50"_s, u"0"_s}, 29, u"Correct: missing number."_s},
-        {{u"1"_s, u"2"_s, u"50"_s, u""_s, u"5"_s, u"6"_s}, 5, u"Correct: number 50 is higher than allowed in Draw."_s},
-        {{u"1"_s, u"2"_s, u"050"_s, u"4"_s, u"5"_s, u"6"_s}, 5, u"Correct: number 050 is higher than allowed in Draw."_s},
+        {{u"1"_s, u"2"_s, u"50"_s, u""_s, u"5"_s, u"6"_s},
+         5,
+         u"Correct: number 50 is higher than allowed in Draw."_s},
+        {{u"1"_s, u"2"_s, u"050"_s, u"4"_s, u"5"_s, u"6"_s},
+         5,
+         u"Correct: number 050 is higher than allowed in Draw."_s},
         {{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"99999999999"_s},
          5,
          u"Correct: number 99999999999 is higher than allowed in Draw."_s},
@@ -456,7 +461,8 @@ TEST_F(Editor, ATypedDateIsShownAsShortDate)
     const struct {
         QString typed;
         QString shown;
-    } cases[] = {{u"2-29-24"_s, u"2/29/2024"_s}, {u"2026-01-05"_s, u"1/5/2026"_s}, {u"12.31.50"_s, u"12/31/1950"_s}};
+    } cases[] = {
+        {u"2-29-24"_s, u"2/29/2024"_s}, {u"2026-01-05"_s, u"1/5/2026"_s}, {u"12.31.50"_s, u"12/31/1950"_s}};
     for (const auto& date : cases) {
         TypeInto(u"InDate"_s, date.typed);
         QTest::keyClick(&Box(u"InDate"_s), Qt::Key_Return);
@@ -530,8 +536,9 @@ TEST_F(Editor, AShapeOutOfBoundsBringsItsMessageAndTheOldValue)
         int message;
         QString after;
     } cases[] = {
-        {u"NumCol"_s, u"11"_s, 27, u" 6"_s},  {u"NumCol"_s, u"0"_s, 27, u" 6"_s},  {u"NumCol"_s, u"999999"_s, 27, u" 6"_s},
-        {u"HighNum"_s, u"61"_s, 28, u"49"_s}, {u"HighNum"_s, u"0"_s, 28, u"49"_s},
+        {u"NumCol"_s, u"11"_s, 27, u" 6"_s},     {u"NumCol"_s, u"0"_s, 27, u" 6"_s},
+        {u"NumCol"_s, u"999999"_s, 27, u" 6"_s}, {u"HighNum"_s, u"61"_s, 28, u"49"_s},
+        {u"HighNum"_s, u"0"_s, 28, u"49"_s},
     };
     for (const auto& shape : cases) {
         m_prompts.expectedMessages = {shape.message};
@@ -694,7 +701,8 @@ TEST_F(Editor, AClickedRowIsRememberedAndASpareRowIsNone)
     OpenEditor();
     auto& grid = Find<QTableView>(u"DGrid1"_s);
     const auto clickRow = [&](int row) {
-        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.model()->index(row, 2)).center());
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {},
+                          grid.visualRect(grid.model()->index(row, 2)).center());
     };
     clickRow(1);
     EXPECT_EQ(m_shared.ClickedRecord, 4);

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -21,12 +22,16 @@ protected:
     }
 
     QPushButton& Button(const QString& name) { return Find<QPushButton>(name); }
-    QString FrontForm() const { return m_window.ActiveForm() == nullptr ? QString() : m_window.ActiveForm()->objectName(); }
+    QString FrontForm() const
+    {
+        return m_window.ActiveForm() == nullptr ? QString() : m_window.ActiveForm()->objectName();
+    }
 };
 
-const QByteArray kTwoDraws = "2,8,49,\"Lotto 6/49\"\r\n,0\r\n,0\r\n,0\r\n,4\r\n,0\r\n,0\r\n,7\r\n,0\r\n,0\r\n,0\r\n"
-                             "1,#2004-03-10#,5,12,23,34,41,49,0,0,0,0\r\n"
-                             "2,#2004-03-13#,3,8,19,27,30,44,0,0,0,0\r\n";
+const QByteArray kTwoDraws =
+    "2,8,49,\"Lotto 6/49\"\r\n,0\r\n,0\r\n,0\r\n,4\r\n,0\r\n,0\r\n,7\r\n,0\r\n,0\r\n,0\r\n"
+    "1,#2004-03-10#,5,12,23,34,41,49,0,0,0,0\r\n"
+    "2,#2004-03-13#,3,8,19,27,30,44,0,0,0,0\r\n";
 
 TEST_F(MainWindow, OpensOnTheMenuAtTheUpperLeftInItsSize)
 {
@@ -102,10 +107,11 @@ TEST_F(MainWindow, WithoutRecordsThreeFormsAndThePrintoutAreRefusedAndTheMenuSta
         EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
     }
     EXPECT_EQ(m_shared.graphCaller, 0);
-    EXPECT_EQ(m_prompts.shownTexts.first(),
-              u"No records to work with. Either start a new Database in 'View and Edit Database' or 'Open a File "
-              "from Disk'. Open the Sample.Lto file to learn and use all the features. Be sure to read 'How to Use "
-              "the Program'."_s);
+    EXPECT_EQ(
+        m_prompts.shownTexts.first(),
+        u"No records to work with. Either start a new Database in 'View and Edit Database' or 'Open a File "
+        "from Disk'. Open the Sample.Lto file to learn and use all the features. Be sure to read 'How to Use "
+        "the Program'."_s);
 }
 
 TEST_F(MainWindow, AButtonWhoseFormComesLaterSaysSoAndTheMenuStays)
@@ -240,6 +246,7 @@ TEST_F(MainWindow, AFileNamedAtTheStartOpensWithoutADialog)
     m_window.Menu().OpenNamedFile(m_folder.filePath(u"Named.Lto"_s));
     EXPECT_EQ(FrontForm(), u"LDbase"_s);
     EXPECT_EQ(m_shared.database.fileName, u"Named.Lto"_s);
+    EXPECT_EQ(m_shared.dialogFolder, m_folder.path());
 }
 
 TEST_F(MainWindow, TheUsersNameStandsInTheMenuWhenThereIsOne)
@@ -360,7 +367,8 @@ TEST_F(MainWindow, EveryControlOfTheMenuAndTheEditorFitsTheOpeningSize)
         if (widget->isVisible() && widget->parentWidget() == &Find<QWidget>(u"LDbase"_s)) {
             const QRect place(widget->mapTo(&m_window, QPoint()), widget->size());
             EXPECT_TRUE(inside.contains(place)) << widget->objectName().toStdString();
-            EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << widget->objectName().toStdString();
+            EXPECT_GE(widget->width(), widget->minimumSizeHint().width())
+                << widget->objectName().toStdString();
         }
     }
 }

@@ -1,9 +1,9 @@
-#include "database/CountsModel.h"
 #include "database/RecordsModel.h"
+
+#include "database/CountsModel.h"
 #include "tests/QtPrinters.h"
 
 #include <QAbstractItemModelTester>
-
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -42,7 +42,8 @@ TEST_F(Records, TheHeadingNamesRecordDateAndThePositions)
     m_model.Build();
     const QStringList expected{u"Record"_s, u"Date"_s, u" 1"_s, u" 2"_s, u" 3"_s, u" 4"_s, u" 5"_s, u" 6"_s};
     for (int column = 0; column < expected.size(); ++column) {
-        EXPECT_EQ(m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(), expected.at(column));
+        EXPECT_EQ(m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(),
+                  expected.at(column));
     }
 }
 
