@@ -21,6 +21,7 @@ void FieldWriter::Begin()
 void FieldWriter::Number(double value)
 {
     Begin();
+    m_everythingHadAPlace = m_everythingHadAPlace && std::isfinite(value);
     constexpr double kLargestPlain = 1e15; // whole numbers below it are written without an exponent
     if (value == std::trunc(value) && std::abs(value) < kLargestPlain) {
         m_bytes += QByteArray::number(static_cast<qlonglong>(value));

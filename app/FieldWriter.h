@@ -21,7 +21,8 @@ public:
 
     [[nodiscard]] const QByteArray& Bytes() const { return m_bytes; }
 
-    /// False once a text with a character outside ISO 8859-1 was given: the bytes are then not the text.
+    /// False once a text with a character outside ISO 8859-1 or a number that is not finite was given: the
+    /// bytes are then not what was given.
     [[nodiscard]] bool EverythingHadAPlace() const { return m_everythingHadAPlace; }
 
 private:

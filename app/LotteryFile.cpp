@@ -12,7 +12,6 @@ namespace {
 
 constexpr int kDrawDayLines = 10;
 constexpr int kLastRow = kRecordRows - 1;
-constexpr std::size_t kLastDrawn = kMostPicks - 1;
 
 /// Reads one file front to back; the first fault ends it.
 class LotteryFileReader
@@ -104,6 +103,7 @@ private:
             return RefuseShortFile();
         }
         cell = m_fields.AsCell(*field);
+        m_lastField = *field;
         return true;
     }
 
@@ -115,9 +115,10 @@ private:
                 return false;
             }
         }
-        // "42" cut to "4" at the end of a file looks whole; a 0 there cannot have been longer.
-        const bool lastNumberMayBeCut = m_content.count > 0 && m_fields.EndedByFileEnd() &&
-                                        CellNumber(m_content.records.back().drawn.at(kLastDrawn)) != 0;
+        // "42" cut to "4" at the end of a file looks whole, and "-4" cut to "-" has the value 0; a plain 0
+        // cannot have been longer.
+        const bool plainZero = m_lastField.kind == Field::Kind::Bare && m_lastField.bytes == "0";
+        const bool lastNumberMayBeCut = m_content.count > 0 && m_fields.EndedByFileEnd() && !plainZero;
         return lastNumberMayBeCut ? Refuse(u"The last line is not finished, so its last number may be cut."_s)
                                   : true;
     }
@@ -148,6 +149,7 @@ private:
     LotteryLayout m_layout;
     const QLocale& m_locale;
     LotteryFileContent m_content;
+    Field m_lastField;
     QString m_reason;
 };
 
@@ -186,7 +188,9 @@ Outcome WriteLotteryFile(const DrawDatabase& database, const QLocale& locale, QB
         writer.EndLine();
     }
     if (!writer.EverythingHadAPlace()) {
-        return Outcome::Failure(u"The title has a character that a lottery file cannot hold."_s);
+        return Outcome::Failure(FitsFileText(database.title)
+                                    ? u"A field has a value that a lottery file cannot hold."_s
+                                    : u"The title has a character that a lottery file cannot hold."_s);
     }
     bytes = writer.Bytes();
     return {};

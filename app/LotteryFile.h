@@ -33,16 +33,17 @@ struct LotteryReading {
 ///
 /// The shape is taken as it stands, whatever its values. Refused are: a header field that is no number or
 /// does not fit 16 bits, fewer fields than the count asks for, a count or a record number beyond the table, a
-/// last number with no comma or line end behind it (it may have lost digits), and in the older layout a
-/// record whose date is no date. Records are numbered by the row they stand in, whatever number the file
-/// gives them.
+/// last number other than 0 with no comma or line end behind it (it may have lost digits), and in the older
+/// layout a record whose date is no date. Records are numbered by the row they stand in, whatever number the
+/// file gives them.
 ///
 /// @param locale  in which a date written as a text is read
 [[nodiscard]] LotteryReading ReadLotteryFile(const QByteArray& bytes, LotteryLayout layout,
                                              const QLocale& locale);
 
 /// The bytes of the file of the current layout that holds @p database.
-/// Fails when a record's date is no date or the title has a character outside ISO 8859-1.
+/// Fails, leaving @p bytes as they are, when a record's date is no date, a number is not finite, or the title
+/// has a character outside ISO 8859-1.
 [[nodiscard]] Outcome WriteLotteryFile(const DrawDatabase& database, const QLocale& locale,
                                        QByteArray& bytes);
 

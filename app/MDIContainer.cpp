@@ -126,15 +126,26 @@ void MDIContainer::BringToFront(WorkingForm* form)
 void MDIContainer::GrowFor(const WorkingForm& form)
 {
     // A desktop with a large font needs more room than the 9,615 by 6,870 twips; nothing may be clipped.
-    const QSize needed = form.minimumSizeHint();
+    QSize needed = form.minimumSizeHint();
+    if (PixelsToTwips(needed.height(), logicalDpiY()) > kLargeFromTwips) {
+        const QPoint corner = InPixels(WorkingForm::ResizedPlace(kLargeLayout));
+        needed += QSize(corner.x(), corner.y());
+    }
     setMinimumSize(minimumSize().expandedTo(needed));
 }
 
 void MDIContainer::MoveForm(WorkingForm* form, QPoint twips)
 {
-    const QPoint corner(TwipsToPixels(twips.x(), logicalDpiX()), TwipsToPixels(twips.y(), logicalDpiY()));
-    // The same distance on the far sides: the form uses the room and stands in the middle.
-    form->setGeometry(QRect(corner, m_stage->size() - QSize(2 * corner.x(), 2 * corner.y())));
+    // The same distance on the far sides, as long as the form does not need that room.
+    const QPoint corner = InPixels(twips);
+    const QSize distance(corner.x(), corner.y());
+    const QSize room = m_stage->size() - distance;
+    form->setGeometry(QRect(corner, (room - distance).expandedTo(form->minimumSizeHint().boundedTo(room))));
+}
+
+QPoint MDIContainer::InPixels(QPoint twips) const
+{
+    return {TwipsToPixels(twips.x(), logicalDpiX()), TwipsToPixels(twips.y(), logicalDpiY())};
 }
 
 void MDIContainer::StageResized()

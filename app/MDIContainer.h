@@ -47,6 +47,7 @@ private:
     void StageResized();
     void MoveForm(WorkingForm* form, QPoint twips);
     void GrowFor(const WorkingForm& form);
+    [[nodiscard]] QPoint InPixels(QPoint twips) const;
 
     LGLOBAL& m_shared;
     Prompts& m_prompts;

@@ -59,13 +59,17 @@ Outcome ForceFolderToDisk(const QString& folder)
 #endif
 }
 
-/// True for the endings that a temporary name gets and a person never writes: "backup", "BACKUP" and "Backup"
-/// may be somebody's copy, "bAcKup" is ours.
+/// True for endings that a temporary name gets and a person does not write: those that change between small
+/// and capital letters at four places of five. "backup", "myCopy" or "MyLoto" may be somebody's copy of the
+/// file, and a leftover that stays costs less than a copy that is gone.
 bool IsNobodysEnding(QStringView ending)
 {
-    const QStringView rest = ending.sliced(1);
-    const QString asText = rest.toString();
-    return asText != asText.toLower() && ending.toString() != ending.toString().toUpper();
+    constexpr int kMostOfAPerson = 3;
+    int changes = 0;
+    for (qsizetype i = 1; i < ending.size(); ++i) {
+        changes += ending.at(i).isUpper() != ending.at(i - 1).isUpper() ? 1 : 0;
+    }
+    return changes > kMostOfAPerson;
 }
 
 /// Removes what an interrupted save left beside the file: NAME.XXXXXX, six letters, an hour old.
@@ -84,6 +88,31 @@ void TidyLeftovers(const QFileInfo& target)
     }
 }
 
+/// True when the links that a path leads through come to no end.
+bool LeadsInACircle(QFileInfo link)
+{
+    constexpr int kMostLinks = 40; // as many as the system follows
+    for (int i = 0; i < kMostLinks && link.isSymLink(); ++i) {
+        link.setFile(link.symLinkTarget());
+    }
+    return link.isSymLink();
+}
+
+/// Writes everything, however many calls that takes: a disk that fills up first takes a part without
+/// complaint, and only the next call says why.
+bool WriteAll(QSaveFile& file, const QByteArray& bytes)
+{
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const qint64 more = file.write(bytes.constData() + written, bytes.size() - written);
+        if (more <= 0) {
+            return false;
+        }
+        written += more;
+    }
+    return true;
+}
+
 Outcome WriteAndCommit(const QString& path, const QByteArray& bytes)
 {
     // setDirectWriteFallback stays off: it would write over the old file in place.
@@ -91,9 +120,15 @@ Outcome WriteAndCommit(const QString& path, const QByteArray& bytes)
     if (!file.open(QIODevice::WriteOnly)) {
         return Outcome::Failure(file.errorString());
     }
+    // The new file has the permissions of the old one, and none at all when those could not be asked for.
+    if (!file.permissions().testFlags(QFile::ReadOwner | QFile::WriteOwner)) {
+        file.cancelWriting();
+        file.commit();
+        return Outcome::Failure(u"The permissions of the old file cannot be kept."_s);
+    }
     // commit() alone looks only at the write error and forgets what its own flush finds, so that a full disk
     // would put an empty file in the place of the old one. Every step is therefore made and asked here.
-    if (file.write(bytes) != bytes.size() || !file.flush() || file.error() != QFileDevice::NoError) {
+    if (!WriteAll(file, bytes) || !file.flush() || file.error() != QFileDevice::NoError) {
         const QString reason = file.errorString(); // before commit, which replaces it
         file.cancelWriting();
         file.commit();
@@ -142,8 +177,11 @@ Outcome SaveFileBytes(const QString& path, const QByteArray& bytes)
     if (target.fileName().isEmpty()) {
         return Outcome::Failure(u"There is no file name."_s);
     }
-    if (target.exists() && !target.isFile()) {
+    if ((target.exists() && !target.isFile()) || LeadsInACircle(target)) {
         return Outcome::Failure(u"\"%1\" is not a file that can be replaced."_s.arg(target.fileName()));
+    }
+    if (bytes.size() > kLargestFile) {
+        return Outcome::Failure(u"The file would be far larger than any of this program's."_s);
     }
     if (const Outcome written = WriteAndCommit(path, bytes); !written.ok) {
         return written;

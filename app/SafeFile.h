@@ -16,5 +16,6 @@ inline constexpr qint64 kLargestFile = 16 * 1024 * 1024;
 /// bytes go to a new file in the same folder, are forced to the disk, take the old file's place, and are read
 /// back. Links are followed. Only a regular file is ever replaced.
 ///
-/// On failure the reason is the system's own, and an old file is whole.
+/// On failure the reason is the system's own, and an old file is whole; only when the very last steps fail,
+/// with the new file in its place already, it is the new one that is whole.
 [[nodiscard]] Outcome SaveFileBytes(const QString& path, const QByteArray& bytes);

@@ -220,6 +220,7 @@ void LDbase::BuildRecordsGrid()
     QHeaderView* header = m_ui->DGrid1->horizontalHeader();
     header->setSectionResizeMode(QHeaderView::Stretch);
     const QFontMetrics metrics(font());
+    header->setMinimumSectionSize(metrics.horizontalAdvance(u"60"_s) + 4);
     for (const int column : {RecordsModel::NumberColumn, RecordsModel::DateColumn}) {
         header->setSectionResizeMode(column, QHeaderView::Fixed);
     }

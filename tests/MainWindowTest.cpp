@@ -373,4 +373,29 @@ TEST_F(MainWindow, EveryControlOfTheMenuAndTheEditorFitsTheOpeningSize)
     }
 }
 
+TEST_F(MainWindow, ADesktopWithLargeLettersGetsALargerWindow)
+{
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSizeF(before.pointSizeF() * 1.6);
+    QApplication::setFont(large);
+    {
+        MDIContainer window(m_shared, m_prompts, m_folder.path());
+        window.AddForm(FormName::LDbase, [this](FormSwitcher& switcher, QWidget* parent) {
+            return new LDbase(m_shared, m_prompts, switcher, parent);
+        });
+        window.Start();
+        window.show();
+        FillDatabase(30);
+        window.ShowForm(FormName::LDbase);
+        Settle();
+        auto* editor = window.findChild<QWidget*>(u"LDbase"_s);
+        EXPECT_GT(window.width(), 641);
+        EXPECT_GE(editor->width(), editor->minimumSizeHint().width());
+        EXPECT_GE(editor->height(), editor->minimumSizeHint().height());
+        window.grab().save(u"/tmp/large.png"_s);
+    }
+    QApplication::setFont(before);
+}
+
 } // namespace

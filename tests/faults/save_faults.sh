@@ -1,0 +1,254 @@
+#!/usr/bin/env bash
+# Breaks the system under the program's saving routine and checks that the file is always whole: it holds the
+# old content or the new, to the last byte, and a save that did not work does not say that it did.
+#
+#   save_faults.sh full-disk PROBE    saves to a disk without room
+#   save_faults.sh calls PROBE        lets every system call of a save fail, and kills the program at every one
+#   save_faults.sh kills PROBE        kills a program that saves all the time, a hundred times
+#
+# PROBE is the program built from save_probe.cpp. Exit status: 0 all held, 1 something did not, 77 this machine
+# cannot run the test.
+
+set -u
+export LC_ALL=C
+export ASAN_OPTIONS="detect_leaks=0:${ASAN_OPTIONS:-}" # the leak checker cannot run under strace
+
+what=${1:?which test}
+probe=${2:?which program}
+failures=0
+checks=0
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+skip() {
+    echo "skipped: $1"
+    exit 77
+}
+
+fail() {
+    echo "FAILED: $1" >&2
+    failures=$((failures + 1))
+}
+
+finish() {
+    echo "$checks checks, $failures failures"
+    ((failures == 0)) && exit 0
+    exit 1
+}
+
+# seed_of FILE SIZE: the seed of the content the file holds, "none" when it is not whole.
+seed_of() {
+    "$probe" seed "$1" "$2" || echo none
+}
+
+# expect_names FOLDER PATTERN STEP: every name in the folder matches the pattern.
+expect_names() {
+    local name
+    while read -r name; do
+        [[ $name =~ ^($2)$ ]] || fail "$3: \"$name\" was left behind"
+    done < <(find "$1" -mindepth 1 -printf '%f\n')
+}
+
+# save FILE SIZE SEED: runs the probe; its exit status in $status, what it said in $said.
+save() {
+    said=$("$probe" save "$@" 2>&1)
+    status=$?
+    checks=$((checks + 1))
+}
+
+# expect_refused FILE SIZE STEP: the last save was refused for want of room and the file holds seed 1.
+expect_refused() {
+    local seed
+    seed=$(seed_of "$1" "$2")
+    [[ $status == 3 ]] || fail "$3: exit status $status, not 3"
+    [[ $said == *"No space left on device"* ]] || fail "$3: the reason is \"$said\""
+    [[ $seed == 1 ]] || fail "$3: the file holds $seed and not the old content"
+}
+
+full_disk() {
+    local how
+    if [[ ${SAVE_FAULTS_INSIDE:-} != yes ]]; then
+        mkdir "$work/try"
+        for how in "unshare -m" "unshare -rm"; do # as root, and as an ordinary user
+            if $how mount -t tmpfs -o size=64k none "$work/try" 2>/dev/null; then
+                SAVE_FAULTS_INSIDE=yes $how "$BASH" "$0" "$what" "$probe"
+                exit $?
+            fi
+        done
+        skip "no file system can be mounted here"
+    fi
+
+    local disk=$work/disk file=$work/disk/f
+    mkdir "$disk"
+    mount -t tmpfs -o size=64k none "$disk" || skip "no file system can be mounted here"
+
+    save "$file" 300 1
+    [[ $status == 0 ]] || fail "an empty disk: exit status $status: $said"
+    cat /dev/zero >"$disk/filler" 2>/dev/null
+    save "$file" 300 2
+    expect_refused "$file" 300 "no room at all"
+    save "$disk/new" 300 2
+    [[ $status == 3 ]] || fail "a new file without room: exit status $status"
+    expect_names "$disk" "f|filler" "no room at all"
+
+    rm "$disk/filler"
+    save "$file" 300 2
+    [[ $status == 0 && $(seed_of "$file" 300) == 2 ]] || fail "room again: exit status $status: $said"
+
+    save "$file" 40000 1
+    [[ $status == 0 ]] || fail "a larger file: exit status $status: $said"
+    save "$file" 40000 2
+    expect_refused "$file" 40000 "room for a part of the new file"
+    expect_names "$disk" "f" "room for a part of the new file"
+    umount "$disk"
+
+    mount -t tmpfs -o size=64k,nr_inodes=2 none "$disk" || skip "no file system can be mounted here"
+    "$probe" save "$work/whole" 300 1 && cat "$work/whole" >"$file"
+    save "$file" 300 2
+    expect_refused "$file" 300 "no room for one more file"
+    expect_names "$disk" "f" "no room for one more file"
+    umount "$disk"
+    finish
+}
+
+changing="?open,openat,?chmod,fchmod,?fchmodat,write,?writev,?pwrite64,ftruncate,fsync,fdatasync,?link,linkat,\
+?rename,?renameat,?renameat2,?unlink,?unlinkat"
+looking="?access,?faccessat,?faccessat2,?stat,?lstat,?fstat,?newfstatat,?statx,lseek,close,read,getdents64,\
+?readlink,?readlinkat,getcwd"
+traced=$changing,$looking
+
+# trace_save OPTION...: a save under strace with these options more; the trace in $work/trace.
+trace_save() {
+    cp "$work/1" "$file" # as it was before
+    said=$(strace -o "$work/trace" -e trace="$traced" "$@" "$probe" save "$file" "$size" 2 2>&1)
+    status=$?
+}
+
+# calls_of_a_save: a line "NAME ORDINAL" for every traced call from the first that names its folder on.
+calls_of_a_save() {
+    awk -v folder="\"$folder" '/^[a-z_0-9]+\(/ {
+        name = $0; sub(/\(.*/, "", name); ++ordinal[name]
+        if (index($0, folder)) begun = 1
+        if (begun) print name, ordinal[name] }' "$work/trace"
+}
+
+# check_fault CALL ORDINAL FAULT [OPTION...]: that call fails so; the options come before.
+check_fault() {
+    local call=$1 ordinal=$2 fault=$3 step="$1 number $2, $3, $size bytes$way" seed
+    shift 3
+    rm -rf "$folder"
+    mkdir "$folder"
+    trace_save "$@" -e inject="$call:$fault:when=$ordinal"
+    checks=$((checks + 1))
+    seed=none
+    cmp -s "$work/1" "$file" && seed=1
+    cmp -s "$work/2" "$file" && seed=2
+    [[ $seed != none ]] || fail "$step: the file is not whole"
+    [[ $(stat -c %a "$file") == [67]* ]] || fail "$step: its owner may not read or write the file"
+    if [[ $fault == signal=KILL ]]; then
+        [[ $status == 137 ]] || fail "$step: exit status $status, not killed"
+        expect_names "$folder" "f|f\.[A-Za-z]{6}" "$step"
+        return
+    fi
+    expect_names "$folder" "f" "$step"
+    grep -q INJECTED "$work/trace" || fail "$step: nothing was injected"
+    case $status in
+    0)
+        [[ $seed == 2 ]] || fail "$step: said to be saved, but the old content is there"
+        case $call in
+        write | writev | pwrite64 | fsync | rename*)
+            fail "$step: said to be saved"
+            ;;
+        esac
+        ;;
+    3) [[ -n $said ]] || fail "$step: no reason" ;;
+    *) fail "$step: exit status $status: $said" ;;
+    esac
+}
+
+# check_all_calls [OPTION...]: every call of a save made under these options.
+check_all_calls() {
+    local forced=$* call ordinal
+    trace_save "$@"
+    [[ $status == 0 ]] || fail "no fault at all$way: exit status $status: $said"
+    calls_of_a_save >"$work/calls"
+    grep -q '^write ' "$work/calls" || fail "no write was seen$way"
+    while read -r call ordinal; do
+        [[ $forced == *"inject=$call:"* ]] && continue # a call can be given one fault only
+        check_fault "$call" "$ordinal" error=EIO "$@"
+        check_fault "$call" "$ordinal" signal=KILL "$@"
+        if [[ $call == write || $call == linkat ]]; then
+            check_fault "$call" "$ordinal" error=ENOSPC "$@"
+        fi
+    done <"$work/calls"
+}
+
+calls() {
+    local proc
+    command -v strace >/dev/null || skip "strace is not installed"
+    strace -o /dev/null -e trace=write -e inject=write:error=ENOSPC:when=1 true 2>/dev/null ||
+        skip "strace may not trace here"
+    folder=$work/folder
+    file=$folder/f
+    mkdir "$folder"
+    for size in 300 40000; do
+        # The larger file differs only in how it gets to the disk.
+        [[ $size == 300 ]] && traced=$changing,$looking || traced=$changing
+        "$probe" save "$work/1" "$size" 1 || fail "no old file to compare with"
+        "$probe" save "$work/2" "$size" 2 || fail "no new file to compare with"
+
+        way=", unnamed new file"
+        check_all_calls
+
+        # Where files cannot be made without a name, a named one beside the target is written. Without /proc that is
+        # so everywhere.
+        way=", named new file"
+        traced+=",?access,?faccessat,?faccessat2"
+        trace_save
+        proc=$(awk '/^[a-z_0-9]+\(/ { name = $0; sub(/\(.*/, "", name); ++ordinal[name]
+            if (index($0, "\"/proc/version\"")) { print name ":error=ENOENT:when=" ordinal[name]; exit } }' \
+            "$work/trace")
+        if [[ -n $proc ]]; then
+            check_all_calls -e inject="$proc"
+        else
+            echo "the named way cannot be forced with this version of Qt"
+        fi
+    done
+    finish
+}
+
+kills() {
+    local file=$work/folder/f size before seed saved=0 begin started count child
+    mkdir "$work/folder"
+    for size in 300 40000; do
+        begin=$(date +%s%N)
+        save "$file" "$size" 0
+        [[ $status == 0 ]] || fail "no kill at all: exit status $status: $said"
+        started=$((($(date +%s%N) - begin) / 1000000)) # what the program takes to start and save, in ms
+        before=0
+        for ((count = 0; count < 50; ++count)); do
+            "$probe" loop "$file" "$size" &
+            child=$!
+            sleep "$(printf '0.%03d' $(((started + RANDOM % 30) % 1000)))"
+            kill -KILL "$child"
+            wait "$child" 2>/dev/null
+            checks=$((checks + 1))
+            seed=$(seed_of "$file" "$size")
+            [[ $seed != none ]] || fail "kill $count, $size bytes: the file is not whole"
+            [[ $seed == "$before" ]] || saved=$((saved + 1))
+            before=$seed
+            expect_names "$work/folder" "f|f\.[A-Za-z]{6}" "kill $count"
+            find "$work/folder" -name 'f.*' -delete
+        done
+    done
+    echo "$saved of 100 programs had saved when they were killed"
+    ((saved > 10)) || fail "hardly any program was killed while it saved"
+    finish
+}
+
+case $what in
+full-disk) full_disk ;;
+calls) calls ;;
+kills) kills ;;
+*) fail "there is no test $what" && exit 1 ;;
+esac
