@@ -53,6 +53,7 @@ LDbase::LDbase(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QWidge
     m_ui->setupUi(this);
     m_ui->HelpBoxD->setPlainText(EditorHelpText());
     SetUpGrids();
+    SetUpLabels();
     SetUpInputs();
     SetUpNumberBoxes();
     ConnectCommands();
@@ -80,6 +81,17 @@ void LDbase::SetUpGrids()
         grid->verticalHeader()->setDefaultSectionSize(row);
         grid->setFixedHeight(2 * row + 2 * grid->frameWidth());
     }
+}
+
+void LDbase::SetUpLabels()
+{
+    // Labels over several lines do not ask for their height by themselves.
+    const QFontMetrics metrics(font());
+    const int line = std::max(metrics.height(), metrics.lineSpacing()) + 1; // fractions of a pixel add up
+    m_ui->NumColLabel->setMinimumHeight(2 * line);
+    m_ui->HighNumLabel->setMinimumHeight(2 * line);
+    m_ui->DuponoffLabel->setMinimumHeight(3 * line);
+    m_ui->DuponoffLabel->setFixedWidth(metrics.horizontalAdvance(u"dupli-"_s) + 4); // one word to a line
 }
 
 void LDbase::SetUpInputs()

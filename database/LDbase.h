@@ -35,6 +35,7 @@ public:
 
 private:
     void SetUpGrids();
+    void SetUpLabels();
     void SetUpInputs();
     void SetUpNumberBoxes();
     void ConnectCommands();
