@@ -224,6 +224,13 @@ TEST_F(LotteryFileCommands, AFileInNeitherLayoutGivesMessages16And13)
             u"The number of records in the first line is not a number that a lottery file can hold."_s}));
 }
 
+TEST_F(LotteryFileCommands, TheReasonIsWhatIsWrongInTheCurrentLayout)
+{
+    ExpectBytesRefused(Written(MadeUpDatabase(10, 49, 3)).chopped(2));
+    EXPECT_EQ(prompts.shownReasons,
+              (QStringList{QString(), u"The last line is not finished, so its last number may be cut."_s}));
+}
+
 TEST_F(LotteryFileCommands, FilesOfNonsenseAreRefused)
 {
     ExpectBytesRefused("");
