@@ -112,7 +112,9 @@ void InputBox::keyPressEvent(QKeyEvent* event)
         return;
     }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        if (QWidget* next = m_rules.next ? m_rules.next() : nullptr) {
+        if (m_rules.enter) {
+            m_rules.enter();
+        } else if (QWidget* next = m_rules.next ? m_rules.next() : nullptr) {
             next->setFocus(Qt::TabFocusReason);
         }
         return;

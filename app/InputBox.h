@@ -24,6 +24,7 @@ struct InputRules {
     Keys keys = Keys::Digits;
     Click click = Click::EmptiesBox;
     std::function<QWidget*()> next{}; ///< where Enter leads; nowhere when empty
+    std::function<void()> enter{};    ///< what Enter does, where it leads to no other box
     LeaveRule leave{};                ///< nothing to check when empty
 };
 

@@ -3,6 +3,7 @@
 #include "app/MDIContainer.h"
 #include "app/PictureTour.h"
 #include "app/ProgramFolder.h"
+#include "database/Extract.h"
 #include "database/LDbase.h"
 
 #include <QApplication>
@@ -114,6 +115,9 @@ int main(int argc, char* argv[])
     }
     window.AddForm(FormName::LDbase, [&](FormSwitcher& switcher, QWidget* parent) {
         return new LDbase(shared, prompts, switcher, parent);
+    });
+    window.AddDialog(FormName::Extract, [&](FormSwitcher& switcher, QWidget* mainWindow) {
+        Extract(shared, prompts, switcher, mainWindow).exec();
     });
     window.Start();
     window.show();

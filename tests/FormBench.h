@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/MDIContainer.h"
+#include "database/Extract.h"
 #include "database/LDbase.h"
 #include "tests/CannedPrompts.h"
 #include "tests/QtPrinters.h"
