@@ -78,6 +78,8 @@ int InputBox::Filter(int key) const
         return FilterDateKey(key);
     case InputRules::Keys::FileText:
         return FilterFileTextKey(key);
+    case InputRules::Keys::QuotedText:
+        return FilterQuotedTextKey(key);
     }
     return 0;
 }

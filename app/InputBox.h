@@ -16,7 +16,7 @@ using LeaveRule = std::function<std::optional<Message>(InputBox& box, bool edite
 
 /// How one input box differs from the others.
 struct InputRules {
-    enum class Keys { Digits, Decimal, Date, FileText };
+    enum class Keys { Digits, Decimal, Date, FileText, QuotedText };
     enum class Click {
         EmptiesBox,  ///< the common pattern: a click empties, the first key replaces
         SelectsText, ///< the focus selects the text, so that a mere click loses nothing

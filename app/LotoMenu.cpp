@@ -47,7 +47,7 @@ void LotoMenu::ConnectButtons()
     Events().OnClick(m_ui->ShowGraph1, [this] { ShowGraphs(); });
     Events().OnClick(m_ui->SelectRec, [this] { ExtractRecords(); });
     Events().OnClick(m_ui->InvTrack, [this] { Switcher().ShowForm(FormName::LInvTrack); });
-    Events().OnClick(m_ui->PtrFnt, [this] { Switcher().RunDialog(FormName::ChangeFnt); });
+    Events().OnClick(m_ui->PtrFnt, [this] { Personalize(); });
     Events().OnClick(m_ui->PrintDbase, [this] { PrintDatabase(); });
     Events().OnClick(m_ui->HowtoUse, [this] { Switcher().TellComesLater(u"'How to Use the Program'"_s); });
     Events().OnClick(m_ui->Exit1Butt, [this] { Exit(); });
@@ -135,6 +135,13 @@ void LotoMenu::ShowGraphs()
         Shared().graphCaller = kGraphFromMenu;
     }
     ShowWithRecords(FormName::LGraph);
+}
+
+void LotoMenu::Personalize()
+{
+    Switcher().RunDialog(FormName::ChangeFnt);
+    ShowUserName();
+    Switcher().ShowForm(FormName::LotoMenu);
 }
 
 void LotoMenu::ExtractRecords()

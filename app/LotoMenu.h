@@ -41,6 +41,7 @@ private:
     void SaveFileToDisk();
     void ShowWithRecords(FormName form);
     void ShowGraphs();
+    void Personalize();
     void ExtractRecords();
     void PrintDatabase();
     void Exit();

@@ -1,3 +1,4 @@
+#include "app/ChangeFnt.h"
 #include "app/DialogPrompts.h"
 #include "app/LGLOBAL.h"
 #include "app/MDIContainer.h"
@@ -115,6 +116,9 @@ int main(int argc, char* argv[])
     }
     window.AddForm(FormName::LDbase, [&](FormSwitcher& switcher, QWidget* parent) {
         return new LDbase(shared, prompts, switcher, parent);
+    });
+    window.AddDialog(FormName::ChangeFnt, [&](FormSwitcher& switcher, QWidget* mainWindow) {
+        ChangeFnt(shared, prompts, switcher, mainWindow).exec();
     });
     window.AddDialog(FormName::Extract, [&](FormSwitcher& switcher, QWidget* mainWindow) {
         Extract(shared, prompts, switcher, mainWindow).exec();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/ChangeFnt.h"
 #include "app/MDIContainer.h"
 #include "database/Extract.h"
 #include "database/LDbase.h"
