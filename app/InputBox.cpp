@@ -55,11 +55,14 @@ InputBox::InputBox(QWidget* parent) : QLineEdit(parent)
     validator->setParent(this);
     setValidator(validator);
     connect(this, &QLineEdit::inputRejected, this, &InputBox::Refuse);
+    setContextMenuPolicy(Qt::NoContextMenu); // it would offer to paste
 }
 
 void InputBox::Follow(LGLOBAL& shared, InputRules rules)
 {
     m_shared = &shared;
+    // However the user changes the text (cutting, erasing a word, undoing), it is edited.
+    connect(this, &QLineEdit::textEdited, this, [this] { m_shared->entryEdited = 1; });
     m_rules = std::move(rules);
     if (m_rules.keys == InputRules::Keys::Digits) {
         setInputMethodHints(Qt::ImhDigitsOnly);
@@ -87,11 +90,22 @@ int InputBox::Filter(int key) const
 bool InputBox::Takes(QChar character) const
 {
     const int key = character.unicode();
+    if (character.category() == QChar::Other_Control) {
+        return false; // Backspace is a key, not a character of a text
+    }
     switch (m_rules.keys) {
     case InputRules::Keys::Decimal: // without the text typed so far
         return FilterDecimalKey(key, {}) != 0;
     default:
         return Filter(key) != 0;
+    }
+}
+
+void InputBox::BeginEdit()
+{
+    if (std::exchange(m_shared->entryEdited, qint16{1}) == 0 &&
+        m_rules.click == InputRules::Click::EmptiesBox) {
+        clear(); // what is typed first replaces the old value
     }
 }
 
@@ -121,6 +135,10 @@ void InputBox::keyPressEvent(QKeyEvent* event)
         }
         return;
     }
+    if (event->matches(QKeySequence::Paste)) {
+        Refuse();
+        return;
+    }
     const QString typed = event->text();
     const int key = typed.isEmpty() ? 0 : typed.front().unicode();
     const bool erases = key == kBackspaceKey || key == kDeleteKey;
@@ -136,17 +154,26 @@ void InputBox::keyPressEvent(QKeyEvent* event)
         Refuse();
         return;
     }
-    if (m_shared->entryEdited == 0) {
-        m_shared->entryEdited = 1;
-        if (m_rules.click == InputRules::Click::EmptiesBox) {
-            clear();
-        }
-    }
+    BeginEdit();
     QLineEdit::keyPressEvent(event);
+}
+
+void InputBox::inputMethodEvent(QInputMethodEvent* event)
+{
+    const QString composed = event->commitString();
+    const bool taken =
+        std::all_of(composed.cbegin(), composed.cend(), [this](QChar ch) { return Takes(ch); });
+    if (m_shared != nullptr && !composed.isEmpty() && taken) {
+        BeginEdit();
+    }
+    QLineEdit::inputMethodEvent(event);
 }
 
 void InputBox::mouseReleaseEvent(QMouseEvent* event)
 {
+    if (event->button() == Qt::MiddleButton) {
+        return; // it would paste what is marked elsewhere
+    }
     QLineEdit::mouseReleaseEvent(event);
     if (m_shared == nullptr || event->button() != Qt::LeftButton ||
         !rect().contains(event->position().toPoint())) {

@@ -31,8 +31,9 @@ struct InputRules {
 /// One of the green boxes that the user types into.
 ///
 /// All boxes share the mark entryEdited: a click or the first key sets it, leaving the box clears it. Only
-/// the keys of the box's rule are taken, others beep; what is pasted or dropped or comes from an input method
-/// is taken only if every character would be. The clipboard is emptied when a box gets or loses the focus.
+/// the keys of the box's rule are taken, others beep; what an input method composes is taken only if every
+/// character would be. Nothing can be pasted or dropped into a box, and the clipboard is emptied when a box
+/// gets or loses the focus.
 class InputBox : public QLineEdit
 {
     Q_OBJECT
@@ -54,12 +55,14 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
 
 private:
+    void BeginEdit();
     void Refuse();
     [[nodiscard]] int Filter(int key) const;
     /// True when the focus comes from or goes to another place of the same window.

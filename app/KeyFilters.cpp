@@ -41,7 +41,7 @@ int FilterDateKey(int key)
 
 int FilterFileTextKey(int key)
 {
-    return key > 0 && key <= kLastFileCharacter ? key : 0;
+    return IsErasing(key) || (key >= ' ' && key <= kLastFileCharacter) ? key : 0;
 }
 
 int FilterQuotedTextKey(int key)

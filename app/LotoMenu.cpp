@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -17,9 +18,9 @@ constexpr qint16 kGraphFromMenu = 1;
 
 } // namespace
 
-LotoMenu::LotoMenu(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, const QString& programFolder,
+LotoMenu::LotoMenu(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QString programFolder,
                    QWidget* parent)
-    : WorkingForm(shared, prompts, switcher, parent), m_programFolder(programFolder),
+    : WorkingForm(shared, prompts, switcher, parent), m_programFolder(std::move(programFolder)),
       m_ui(std::make_unique<Ui::LotoMenu>())
 {
     m_ui->setupUi(this);

@@ -14,7 +14,7 @@ class LotoMenu : public WorkingForm
     Q_OBJECT
 
 public:
-    LotoMenu(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, const QString& programFolder,
+    LotoMenu(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QString programFolder,
              QWidget* parent = nullptr);
     ~LotoMenu() override;
 

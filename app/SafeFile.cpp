@@ -134,7 +134,7 @@ Outcome WriteAndCommit(const QString& path, const QByteArray& bytes)
         file.commit();
         return Outcome::Failure(reason);
     }
-    if (const Outcome forced = ForceToDisk(file); !forced.ok) {
+    if (Outcome forced = ForceToDisk(file); !forced.ok) {
         file.cancelWriting();
         file.commit();
         return forced;
@@ -183,16 +183,16 @@ Outcome SaveFileBytes(const QString& path, const QByteArray& bytes)
     if (bytes.size() > kLargestFile) {
         return Outcome::Failure(u"The file would be far larger than any of this program's."_s);
     }
-    if (const Outcome written = WriteAndCommit(path, bytes); !written.ok) {
+    if (Outcome written = WriteAndCommit(path, bytes); !written.ok) {
         return written;
     }
     // Of a link, the file it leads to was replaced.
     const QFileInfo placed(QFileInfo(path).canonicalFilePath());
-    if (const Outcome forced = ForceFolderToDisk(placed.absolutePath()); !forced.ok) {
+    if (Outcome forced = ForceFolderToDisk(placed.absolutePath()); !forced.ok) {
         return forced;
     }
     QByteArray readBack;
-    if (const Outcome read = ReadFileBytes(path, readBack); !read.ok) {
+    if (Outcome read = ReadFileBytes(path, readBack); !read.ok) {
         return read;
     }
     if (readBack != bytes) {

@@ -6,7 +6,7 @@
 #include <QString>
 
 /// No file of ours comes near this size; a larger one is not one of ours.
-inline constexpr qint64 kLargestFile = 16 * 1024 * 1024;
+inline constexpr qint64 kLargestFile = qint64{16} * 1024 * 1024;
 
 /// Reads a whole regular file of at most kLargestFile bytes; folders, devices and pipes are refused unopened.
 /// On failure the reason is the system's own and @p bytes is untouched.

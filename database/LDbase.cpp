@@ -163,9 +163,17 @@ void LDbase::ConnectCommands()
     }
     connect(m_ui->InFileName, &QLineEdit::textEdited, this,
             [this](const QString& title) { Shared().database.title = title; });
-    connect(m_ui->DGrid1, &QTableView::clicked, this, [this](const QModelIndex& cell) {
+    const auto remember = [this](const QModelIndex& cell) {
         Shared().ClickedRecord = static_cast<qint16>(m_records.RecordInRow(cell.row()));
-    });
+    };
+    connect(m_ui->DGrid1, &QTableView::clicked, this, remember);
+    // By the keyboard a row is chosen by going to it; reaching the grid by Tab chooses none.
+    connect(m_ui->DGrid1->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [remember](const QModelIndex& current, const QModelIndex& previous) {
+                if (current.isValid() && previous.isValid()) {
+                    remember(current);
+                }
+            });
 }
 
 void LDbase::Load()
@@ -226,9 +234,10 @@ void LDbase::ShowDrawDays()
 void LDbase::BuildRecordsGrid()
 {
     DrawDatabase& database = Shared().database;
-    // The boxes are asked, not the database: this is also how a new shape comes into force.
-    database.columns = ToInt16(Val(m_ui->NumCol->text()) + 2).value_or(kRecordCells);
-    database.highest = ToInt16(Val(m_ui->HighNum->text())).value_or(kMostNumbers);
+    if (database.count <= 0) { // the boxes give a database without records its shape; records keep theirs
+        database.columns = ToInt16(Val(m_ui->NumCol->text()) + 2).value_or(kRecordCells);
+        database.highest = ToInt16(Val(m_ui->HighNum->text())).value_or(kMostNumbers);
+    }
     const LotteryShape shape = database.Shape();
     database.columns = static_cast<qint16>(shape.picks + 2);
     database.highest = static_cast<qint16>(shape.highest);
@@ -436,6 +445,7 @@ void LDbase::DeleteAll()
     Shared().NumberStats = {};
     Shared().sortedNumberStats = {};
     Shared().topNumbersText = {};
+    Shared().ClickedRecord = 0;
     m_ui->InFileName->clear();
     m_ui->Label4->setText(FirstStatisticsLine());
     EmptyNumberBoxes();

@@ -54,5 +54,8 @@ void CannedPrompts::Notice(const QString& text)
 
 void CannedPrompts::SetBusyPointer(bool isBusy)
 {
+    if (busy != isBusy) {
+        busyChanges.push_back(isBusy);
+    }
     busy = isBusy;
 }

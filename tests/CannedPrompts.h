@@ -32,6 +32,7 @@ public:
     QStringList askedTexts;
     std::deque<qint16> fileDialogModes; ///< the modes the file dialog was opened under
     bool busy = false;
+    std::deque<bool> busyChanges; ///< the busy pointer shown and taken away, in order
 
 private:
     LGLOBAL& m_shared;

@@ -203,17 +203,32 @@ TEST_F(InputBoxes, TheClipboardIsEmptiedWhenABoxGetsAndLosesTheFocus)
     EXPECT_EQ(QApplication::clipboard()->text(), QString());
 }
 
-TEST_F(InputBoxes, WhatIsPastedFromElsewhereIsTakenOnlyWhenAllOfItMayBeTyped)
+TEST_F(InputBoxes, NothingCanBePasted)
 {
     FollowOneToTen();
+    m_box.setText(u" 6"_s);
     Enter();
-    QApplication::clipboard()->setText(u"1x"_s);
-    m_box.paste();
-    EXPECT_EQ(m_box.text(), QString());
-    EXPECT_EQ(m_refused, 1);
     QApplication::clipboard()->setText(u"9"_s);
-    m_box.paste();
-    EXPECT_EQ(m_box.text(), u"9"_s);
+    QTest::keySequence(&m_box, QKeySequence::Paste);
+    QTest::keyClick(&m_box, Qt::Key_Insert, Qt::ShiftModifier);
+    QTest::mouseClick(&m_box, Qt::MiddleButton);
+    EXPECT_EQ(m_box.text(), u" 6"_s);
+    EXPECT_EQ(m_refused, 2);
+    EXPECT_EQ(m_shared.entryEdited, 0);
+    EXPECT_EQ(m_box.contextMenuPolicy(), Qt::NoContextMenu);
+}
+
+TEST_F(InputBoxes, ATextChangedWithoutACharacterTypedIsEditedToo)
+{
+    FollowOneToTen();
+    m_box.setText(u"10"_s);
+    Enter();
+    m_box.setSelection(1, 1);
+    QTest::keySequence(&m_box, QKeySequence::Cut);
+    EXPECT_EQ(m_box.text(), u"1"_s);
+    EXPECT_EQ(m_shared.entryEdited, 1);
+    Leave();
+    EXPECT_EQ(m_box.text(), u" 1"_s);
 }
 
 TEST_F(InputBoxes, WhatAnInputMethodComposesFollowsTheSameRule)
@@ -228,6 +243,12 @@ TEST_F(InputBoxes, WhatAnInputMethodComposesFollowsTheSameRule)
     digits.setCommitString(u"6"_s);
     QApplication::sendEvent(&m_box, &digits);
     EXPECT_EQ(m_box.text(), u"6"_s);
+    EXPECT_EQ(m_shared.entryEdited, 1);
+    Leave();
+    Enter();
+    digits.setCommitString(u"7"_s); // the first replaces the old value
+    QApplication::sendEvent(&m_box, &digits);
+    EXPECT_EQ(m_box.text(), u"7"_s);
 }
 
 TEST_F(InputBoxes, LeavingTheWindowForAnotherProgramChecksNothing)

@@ -136,8 +136,10 @@ TEST(KeyFilters, BackspaceMakesRoomForAnotherDecimal)
 
 TEST(KeyFilters, TheFileTextFilterPassesWhatISO8859Holds)
 {
-    EXPECT_EQ(FilterFileTextKey(0), 0);
-    for (int key = 1; key <= 0xFF; ++key) {
+    for (int key = 0; key < ' '; ++key) { // line breaks and other control characters have no place in a title
+        EXPECT_EQ(FilterFileTextKey(key), key == kBackspaceKey ? key : 0);
+    }
+    for (int key = ' '; key <= 0xFF; ++key) {
         EXPECT_EQ(FilterFileTextKey(key), key);
     }
     for (int key = 0x100; key <= kLastKey; ++key) {

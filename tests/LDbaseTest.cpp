@@ -764,4 +764,155 @@ TEST_F(Editor, ClearingTheCellsLeavesTheRecords)
     EXPECT_EQ(m_shared.database.count, 2);
 }
 
+// What must not slip
+
+TEST_F(Editor, TheShapeOfRecordsCannotBeChangedPastTheBoxes)
+{
+    FillDatabase(1);
+    OpenEditor();
+    InputBox& picks = Box(u"NumCol"_s);
+    picks.setFocus(Qt::TabFocusReason);
+    QInputMethodEvent composed;
+    composed.setCommitString(u"3"_s);
+    QApplication::sendEvent(&picks, &composed);
+    m_prompts.expectedMessages = {40};
+    QTest::keyClick(&picks, Qt::Key_Return);
+    Settle();
+    EXPECT_EQ(picks.text(), u" 6"_s);
+    picks.setText(u"3"_s); // whatever a box says when the grid is built anew
+    for (int added = 0; added < 25; ++added) {
+        TypeDraw({u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s});
+        Click(u"DCalc"_s);
+    }
+    EXPECT_EQ(m_shared.database.count, 26);
+    EXPECT_EQ(m_shared.database.columns, 8);
+}
+
+TEST_F(Editor, ANumberBoxTakesDigitsAlone)
+{
+    OpenEditor();
+    for (const QString& name : {u"DYourNumIn0"_s, u"DYourNumIn5"_s, u"NumCol"_s, u"HighNum"_s}) {
+        Box(name).clear();
+        TypeInto(name, u"1.-/a 2"_s);
+        EXPECT_EQ(Box(name).text(), u"12"_s) << name.toStdString();
+        Box(name).setText(u"6"_s);
+    }
+    TypeInto(u"InDate"_s, u"1a/ 2"_s);
+    EXPECT_EQ(Box(u"InDate"_s).text(), u"1/2"_s);
+    Box(u"InDate"_s).clear();
+}
+
+TEST_F(Editor, TheTitleAndShapeBoxesLoseNothingByAClick)
+{
+    FillDatabase(1);
+    OpenEditor();
+    QTest::mouseClick(&Box(u"InFileName"_s), Qt::LeftButton);
+    EXPECT_EQ(Box(u"InFileName"_s).selectedText(), u"Test 6/49"_s);
+    QTest::mouseClick(&Box(u"NumCol"_s), Qt::LeftButton);
+    EXPECT_EQ(Box(u"NumCol"_s).selectedText(), u" 6"_s);
+}
+
+TEST_F(Editor, AnEmptyRowIsSaidBeforeItsDuplicates)
+{
+    FillDatabase(1);
+    OpenEditor();
+    for (const QString& first : {u""_s, u"0"_s}) {
+        TypeDraw({first, u"5"_s, u"5"_s, u"6"_s, u"7"_s, u"8"_s});
+        m_prompts.expectedMessages = {36};
+        Click(u"DCalc"_s);
+    }
+}
+
+TEST_F(Editor, AFullDatabaseIsSaidBeforeAFaultOfTheRow)
+{
+    FillDatabase(2001);
+    m_prompts.expectedMessages = {45, 45};
+    OpenEditor();
+    Settle();
+    TypeDraw({u"1"_s, u"99"_s, u""_s, u"4"_s, u"5"_s, u"6"_s});
+    Click(u"DCalc"_s);
+}
+
+TEST_F(Editor, TheBusyPointerIsShownWhileOpeningAndAdding)
+{
+    FillDatabase(1);
+    OpenEditor();
+    EXPECT_EQ(m_prompts.busyChanges, (std::deque<bool>{true, false}));
+    m_prompts.busyChanges.clear();
+    TypeDraw({u"11"_s, u"12"_s, u"13"_s, u"14"_s, u"15"_s, u"16"_s});
+    Click(u"DCalc"_s);
+    EXPECT_EQ(m_prompts.busyChanges, (std::deque<bool>{true, false}));
+}
+
+TEST_F(Editor, OpensAnewWithNothingLeftOfTheLastTime)
+{
+    FillDatabase(30);
+    OpenEditor();
+    TypeDraw({u"1"_s, u"2"_s});
+    Find<QTableView>(u"DGrid1"_s).scrollToBottom();
+    Click(u"DExit"_s);
+    Click(u"DBaseForm"_s);
+    EXPECT_EQ(NumberTexts(), QStringList(10, QString()));
+    EXPECT_EQ(Find<QTableView>(u"DGrid1"_s).indexAt(QPoint(2, 2)).row(), 0);
+    Click(u"DExit"_s);
+    m_shared.database.Empty();
+    Click(u"DBaseForm"_s);
+    EXPECT_EQ(TextOf(u"Label4"_s), u"Showing the number of times drawn"_s);
+    EXPECT_EQ(m_shared.topNumbersText, (std::array<QString, 4>{}));
+}
+
+TEST_F(Editor, LinesOfTopNumbersDoNotOutliveTheirCounts)
+{
+    FillDatabase(1);
+    OpenEditor();
+    ASSERT_NE(m_shared.topNumbersText.at(1), QString());
+    m_shared.database.records[1].drawn.fill({});
+    ClickBox(u"WhichCnt"_s);
+    ClickBox(u"WhichCnt"_s);
+    EXPECT_EQ(m_shared.topNumbersText, (std::array<QString, 4>{}));
+}
+
+TEST_F(Editor, DeleteAllLeavesTheUnsavedMarkAndForgetsTheClickedRow)
+{
+    FillDatabase(3);
+    OpenEditor();
+    m_shared.database.modified = 1;
+    m_shared.ClickedRecord = 2;
+    m_prompts.answers = {false};
+    Click(u"DDeleteAll"_s);
+    EXPECT_EQ(m_shared.database.modified, 1);
+    EXPECT_EQ(m_shared.ClickedRecord, 0);
+    EXPECT_EQ(m_shared.sortedNumberStats, NumberTable{});
+}
+
+TEST_F(Editor, ARowIsChosenByTheArrowKeysToo)
+{
+    FillDatabase(5);
+    OpenEditor();
+    auto& grid = Find<QTableView>(u"DGrid1"_s);
+    grid.setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(m_shared.ClickedRecord, 0);
+    QTest::keyClick(&grid, Qt::Key_Down);
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(m_shared.ClickedRecord, 3);
+}
+
+TEST_F(Editor, EveryAccessKeyPressesItsButton)
+{
+    FillDatabase(1);
+    OpenEditor();
+    for (const QString& name :
+         {u"DCalc"_s, u"DCorrectRec"_s, u"DDeleteAll"_s, u"DGraphs"_s, u"DHelp"_s, u"DExit"_s}) {
+        auto& button = Find<QPushButton>(name);
+        QObject::disconnect(&button, &QPushButton::clicked, nullptr, nullptr);
+        int clicks = 0;
+        QObject::connect(&button, &QPushButton::clicked, &button, [&clicks] { ++clicks; });
+        const QString caption = button.text();
+        const QChar key = caption.at(caption.indexOf(u'&') + 1).toUpper();
+        QTest::keyClick(&m_window, static_cast<Qt::Key>(key.unicode()), Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&clicks] { return clicks == 1; }, 1000)) << name.toStdString();
+        QObject::disconnect(&button, &QPushButton::clicked, nullptr, nullptr);
+    }
+}
+
 } // namespace

@@ -74,7 +74,7 @@ TEST_F(MainWindow, AnAccessKeyPressesItsButton)
     for (const QString& name : {u"DBaseForm"_s, u"LoadFile"_s, u"CheckWin"_s, u"ShowGraph1"_s, u"SelectRec"_s,
                                 u"InvTrack"_s, u"PtrFnt"_s, u"PrintDbase"_s, u"HowtoUse"_s, u"Exit1Butt"_s}) {
         QPushButton& button = Button(name);
-        button.disconnect(SIGNAL(clicked(bool)));
+        QObject::disconnect(&button, &QPushButton::clicked, nullptr, nullptr);
         QSignalSpy clicked(&button, &QPushButton::clicked);
         const QString caption = button.text();
         const QChar key = caption.at(caption.indexOf(u'&') + 1).toUpper();
