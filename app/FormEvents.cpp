@@ -24,8 +24,8 @@ void FormEvents::OnClick(QAbstractButton* button, const std::function<void()>& c
     });
     connect(button, &QAbstractButton::clicked, this, [this, button, command] {
         const bool abandoned = std::exchange(m_pressAbandoned, false) || m_showingMessages;
-        // A check box has changed already: what it shows and what the program holds must stay the same. And an access
-        // key presses its button a moment later, when another form may have taken this one's place.
+        // A check box has changed already: what it shows and what the program holds must stay the same. And
+        // an access key presses its button a moment later, when another form may have taken this one's place.
         if (button->isCheckable() || (!abandoned && m_form->isVisible())) {
             command();
         }

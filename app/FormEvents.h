@@ -26,7 +26,7 @@ public:
 
     /// Lets a button run a command. The button takes the focus first, so that the box the user typed in is
     /// checked also when the button is reached by its access key; when that check brings a message, the
-    /// command is not run.
+    /// command is not run. What a check box or option button stands for is always done, since it shows it.
     void OnClick(QAbstractButton* button, const std::function<void()>& command);
 
     /// Shows a message as soon as the events that are under way are done.

@@ -915,4 +915,16 @@ TEST_F(Editor, EveryAccessKeyPressesItsButton)
     }
 }
 
+TEST_F(Editor, ACheckBoxShowsWhatIsHeldAlsoWhenItWasReachedPastAMessage)
+{
+    FillDatabase(1);
+    OpenEditor();
+    TypeInto(u"InDate"_s, u"1/1"_s);
+    m_prompts.expectedMessages = {30};
+    ClickBox(u"DaysofWeek1"_s); // pressed and let go before the message can come
+    Settle();
+    EXPECT_TRUE(Checked(u"DaysofWeek1"_s));
+    EXPECT_EQ(CellNumber(m_shared.database.drawDays[2].weekday), 2);
+}
+
 } // namespace

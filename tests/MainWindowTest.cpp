@@ -405,4 +405,14 @@ TEST_F(MainWindow, ADesktopWithLargeLettersGetsALargerWindow)
     QApplication::setFont(before);
 }
 
+TEST_F(MainWindow, ASecondAccessKeyDoesNothingOnceTheMenuHasGivenWayToAForm)
+{
+    Start();
+    QTest::keyClick(&m_window, Qt::Key_V, Qt::AltModifier);
+    QTest::keyClick(&m_window, Qt::Key_O, Qt::AltModifier); // would ask for a file
+    ASSERT_TRUE(QTest::qWaitFor([this] { return FrontForm() == u"LDbase"_s; }));
+    QTest::qWait(200); // longer than a button stays down after its access key
+    EXPECT_EQ(m_prompts.fileDialogModes.size(), 0U);
+}
+
 } // namespace
