@@ -3,7 +3,31 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
+
+namespace {
+
+void AppendWhole(QByteArray& bytes, qint64 value)
+{
+    std::array<char, 20> digits; // as many as the longest has, with its sign
+    const char* const end = std::to_chars(digits.begin(), digits.end(), value).ptr;
+    bytes.append(digits.data(), end - digits.data());
+}
+
+/// With zeros in front where it has fewer digits than @p width.
+void AppendPadded(QByteArray& bytes, int value, qsizetype width)
+{
+    const qsizetype begin = bytes.size();
+    AppendWhole(bytes, value);
+    const qsizetype missing = width - (bytes.size() - begin);
+    if (missing > 0) {
+        bytes.insert(begin, missing, '0');
+    }
+}
+
+} // namespace
 
 bool FitsFileText(QStringView text)
 {
@@ -24,7 +48,7 @@ void FieldWriter::Number(double value)
     m_everythingHadAPlace = m_everythingHadAPlace && std::isfinite(value);
     constexpr double kLargestPlain = 1e15; // whole numbers below it are written without an exponent
     if (value == std::trunc(value) && std::abs(value) < kLargestPlain) {
-        m_bytes += QByteArray::number(static_cast<qlonglong>(value));
+        AppendWhole(m_bytes, static_cast<qint64>(value));
     } else {
         m_bytes += QByteArray::number(value, 'g', QLocale::FloatingPointShortest);
     }
@@ -40,7 +64,13 @@ void FieldWriter::Text(const QString& text)
 void FieldWriter::Date(QDate date)
 {
     Begin();
-    m_bytes += '#' + date.toString(Qt::ISODate).toLatin1() + '#';
+    m_bytes += '#';
+    AppendPadded(m_bytes, date.year(), 4);
+    m_bytes += '-';
+    AppendPadded(m_bytes, date.month(), 2);
+    m_bytes += '-';
+    AppendPadded(m_bytes, date.day(), 2);
+    m_bytes += '#';
 }
 
 void FieldWriter::AsHeld(const Cell& cell)

@@ -14,6 +14,7 @@ class FieldWriter
 public:
     void Number(double value);
     void Text(const QString& text);
+    /// @param date  a day of the years 0 to 9999
     void Date(QDate date);
     /// The cell under its own kind; an empty cell is a field of nothing.
     void AsHeld(const Cell& cell);

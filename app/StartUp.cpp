@@ -42,7 +42,9 @@ void InitialiseSharedState(LGLOBAL& shared, const QString& programFolder)
 
     shared.NumberStats = {};
     shared.sortedNumberStats = {};
-    shared.database = DrawDatabase{};
+    // Emptied where it is: a second table, made only to be copied from, would show in the time of the start.
+    shared.database.Empty();
+    shared.database.modified = 0;
     shared.topNumbersText = {};
     shared.scratchText = {};
 
