@@ -487,8 +487,8 @@ void LDbase::CorrectRecord()
         DeleteRec();
         break;
     case EditMode::Sort:
-        SortAndShow();
         EndTask();
+        SortAndShow();
         break;
     case EditMode::Normal:
         break;
