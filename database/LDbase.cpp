@@ -166,6 +166,10 @@ void LDbase::ConnectCommands()
     connect(m_ui->DGrid1, &QTableView::clicked, this, [this](const QModelIndex& cell) {
         Shared().ClickedRecord = static_cast<qint16>(m_records.RecordInRow(cell.row()));
     });
+    connect(m_ui->DGrid1->horizontalHeader(), &QHeaderView::sectionClicked, this, [this] {
+        m_ui->DGrid1->clearSelection(); // the heading is no record
+        Shared().ClickedRecord = 0;
+    });
 }
 
 void LDbase::Load()
@@ -599,6 +603,7 @@ void LDbase::SortAndShow()
 
 void LDbase::ShowAgain(int unreadable)
 {
+    Shared().ClickedRecord = 0; // the records may have moved
     ClearAllCels();
     FillRecordsGrid();
     AdvanceDate();

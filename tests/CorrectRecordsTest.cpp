@@ -210,6 +210,26 @@ TEST_F(Correcting, TheClickedRowIsOffered)
     Click(u"DCorrectRec"_s);
 }
 
+TEST_F(Correcting, ASpareRowOrTheHeadingOffersNoRecord)
+{
+    OpenWith(5);
+    const std::vector<std::function<void()>> clicks{[this] { ClickGridRow(6); },
+                                                    [this] { ClickGridHeading(); }};
+    for (const auto& click : clicks) {
+        ClickGridRow(2);
+        EXPECT_EQ(m_shared.ClickedRecord, 3);
+        click();
+        EXPECT_EQ(m_shared.ClickedRecord, 0);
+        OnDialog([](QWidget& dialog) {
+            EXPECT_EQ(In<InputBox>(dialog, u"CurVal"_s).text(), QString());
+            ClickIn(dialog, u"Accept"_s);
+        });
+        Click(u"DCorrectRec"_s);
+        ExpectAtRest(u"1/19/2000"_s);
+    }
+    EXPECT_EQ(m_shared.database.count, 5);
+}
+
 // Correct
 
 TEST_F(Correcting, ShowsTheRecordInTheNewRowAndHidesWhatCannotBeUsed)
@@ -715,6 +735,16 @@ TEST_F(Correcting, HelpAndCountsCanBeLookedAtMeanwhile)
     EXPECT_EQ(NumberBox(0).text(), u"2"_s);
     Click(u"DCalc"_s);
     EXPECT_EQ(DrawnIn(2).at(0), 2);
+}
+
+TEST_F(Correcting, ARowClickedMeanwhileIsNotOfferedOnceTheRecordsHaveMoved)
+{
+    OpenWith(5);
+    Choose(Correct, u"2"_s);
+    ClickGridRow(1); // record 4
+    SetDate(u"12/1/1999"_s);
+    Click(u"DCalc"_s);
+    ExpectAtRest(u"1/19/2000"_s);
 }
 
 TEST_F(Correcting, AfterEachTaskTheNextDrawIsAdded)
