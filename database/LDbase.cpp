@@ -505,10 +505,9 @@ void LDbase::BeginCorrection()
     const DrawRecord& record = Shared().database.records.at(static_cast<std::size_t>(number));
     MakInvisible();
     m_ui->InNew->setText(QString::number(number));
-    // A record whose date cannot be read shows an empty box, to be filled.
-    const std::optional<QDate> date = CellDate(record.date, Shared().locale);
-    NewDate = date.value_or(NewDate);
-    m_ui->InDate->setText(date ? ShortDate(*date, Shared().locale) : QString());
+    // A record whose date cannot be read shows an empty box, which stays so until a date is typed.
+    NewDate = CellDate(record.date, Shared().locale).value_or(QDate());
+    m_ui->InDate->setText(ShortDate(NewDate, Shared().locale));
     for (std::size_t i = 0; i < DYourNumIn.size(); ++i) {
         DYourNumIn.at(i)->setText(Format(CellText(record.drawn.at(i)), u"##"));
     }
@@ -524,8 +523,9 @@ void LDbase::BeginInsertion()
     }
     MakInvisible();
     m_ui->InNew->setText(u"Insert"_s);
-    m_ui->InDate->setFocus();
+    NewDate = QDate();
     m_ui->InDate->clear();
+    m_ui->InDate->setFocus();
 }
 
 bool LDbase::RowIsRefused()
@@ -534,8 +534,14 @@ bool LDbase::RowIsRefused()
         CheckNumbers(NumberTexts(), Shared().database.highest, kMendedNumberIsZero);
     if (fault) {
         Show(Shared(), Asking(), {.number = fault->message, .arg1 = fault->arg1});
+        return true;
     }
-    return fault.has_value();
+    if (!NewDate.isValid()) {
+        Show(Shared(), Asking(), {.number = kNotAProperDate});
+        m_ui->InDate->setFocus();
+        return true;
+    }
+    return false;
 }
 
 bool LDbase::DateIsRefused()

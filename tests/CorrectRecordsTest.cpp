@@ -513,6 +513,25 @@ TEST_F(Correcting, ARefusedRowKeepsTheInsertionOpen)
     EXPECT_EQ(DrawnIn(2), (std::vector{1, 2, 3, 4, 5, 49}));
 }
 
+TEST_F(Correcting, AnInsertionWithoutADateAsksForOne)
+{
+    OpenWith(5);
+    Choose(Insert);
+    TypeDraw({u"44"_s, u"45"_s, u"46"_s, u"47"_s, u"48"_s, u"49"_s});
+    EXPECT_EQ(Box(u"InDate"_s).text(), QString());
+    m_prompts.expectedMessages = {30};
+    Click(u"DCalc"_s);
+    EXPECT_EQ(LastMessage(), u"Not a proper date, Correct format: 11/18/2026"_s);
+    EXPECT_EQ(m_shared.database.count, 5);
+    EXPECT_EQ(NumberBox(5).text(), u"49"_s);
+    EXPECT_EQ(FocusName(), u"InDate"_s);
+    ExpectPending(EditMode::Insert);
+    SetDate(u"1/2/2000"_s);
+    Click(u"DCalc"_s);
+    EXPECT_EQ(m_shared.database.count, 6);
+    EXPECT_EQ(DateOf(2), QDate(2000, 1, 2));
+}
+
 TEST_F(Correcting, InsertsTheTwoThousandAndFirstRecordAndNoMore)
 {
     OpenWith(2000);
@@ -671,6 +690,29 @@ TEST_F(Correcting, ARecordWithoutADateComesFirstAndIsSaid)
     Choose(Delete, u"1"_s); // the record itself goes without a word
     EXPECT_EQ(m_shared.database.count, 2);
     ExpectAtRest(u"1/8/2000"_s);
+}
+
+TEST_F(Correcting, ARecordWithoutADateIsGivenOne)
+{
+    FillDatabase(4);
+    Record(3).date = u"yesterday"_s;
+    OpenEditor();
+    Choose(Correct, u"3"_s);
+    EXPECT_EQ(Box(u"InDate"_s).text(), QString());
+    EXPECT_EQ(NumberBox(0).text(), u"3"_s);
+    // Going through the empty box puts no date into it that nobody typed.
+    Box(u"InDate"_s).setFocus(Qt::TabFocusReason);
+    NumberBox(0).setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(Box(u"InDate"_s).text(), QString());
+    m_prompts.expectedMessages = {30};
+    Click(u"DCalc"_s);
+    EXPECT_EQ(Record(3).date, ::Cell(u"yesterday"_s));
+    ExpectPending(EditMode::Correct);
+    SetDate(u"1/8/2000"_s);
+    Click(u"DCalc"_s);
+    EXPECT_EQ(DateOf(3), QDate(2000, 1, 8));
+    EXPECT_EQ(DrawnIn(3).at(0), 3);
+    ExpectAtRest(u"1/15/2000"_s);
 }
 
 TEST_F(Correcting, TheLastRecordWithoutADateIsGivenAnyDate)
