@@ -343,7 +343,10 @@ QStringList LDbase::NumberTexts() const
 std::optional<Message> LDbase::LeaveDate(InputBox& box)
 {
     const QString typed = box.text();
-    const std::optional<QDate> date = ParseShortDate(typed, Shared().locale);
+    std::optional<QDate> date = ParseShortDate(typed, Shared().locale);
+    if (date == DeletionMark()) {
+        date.reset(); // a draw that carried the mark would be dropped by the next sort
+    }
     NewDate = date.value_or(NewDate);
     box.setText(ShortDate(NewDate, Shared().locale));
     // A click empties the box: leaving it so is no mistake.

@@ -634,6 +634,23 @@ TEST_F(Correcting, ASavedFileHoldsNoTraceOfADeletion)
     EXPECT_EQ(bytes.count("-"), 4) << bytes.toStdString(); // two dates
 }
 
+TEST_F(Correcting, TheMarkOfADeletionIsNoDateOfADraw)
+{
+    OpenWith(3);
+    const auto typeMark = [this] {
+        m_prompts.expectedMessages = {30};
+        SetDate(u"2/19/2500"_s);
+        EXPECT_TRUE(m_prompts.expectedMessages.empty());
+    };
+    typeMark();
+    EXPECT_EQ(Box(u"InDate"_s).text(), u"1/12/2000"_s);
+    Choose(Correct, u"2"_s);
+    typeMark();
+    EXPECT_EQ(Box(u"InDate"_s).text(), u"1/5/2000"_s);
+    SetDate(u"2/18/2499"_s);
+    EXPECT_EQ(Box(u"InDate"_s).text(), u"2/18/2499"_s);
+}
+
 // Sort
 
 TEST_F(Correcting, SortsAllRecordsByDate)
