@@ -615,7 +615,9 @@ void LDbase::ShowAgain(int unreadable)
     Shared().ClickedRecord = 0; // the records may have moved
     ClearAllCels();
     FillRecordsGrid();
-    AdvanceDate();
+    if (NumberTexts().join(QString()).isEmpty()) { // a draw that is half typed keeps its date
+        AdvanceDate();
+    }
     ComputeNumberStats(Shared());
     ShowStatistics();
     DYourNumIn.front()->setFocus();

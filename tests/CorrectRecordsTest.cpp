@@ -745,6 +745,23 @@ TEST_F(Correcting, TheLastRecordWithoutADateIsGivenAnyDate)
 
 // Half a row, leaving, coming back
 
+TEST_F(Correcting, ADrawThatIsHalfTypedKeepsItsDate)
+{
+    OpenWith(5);
+    const std::vector<std::function<void()>> tasks{[this] { Choose(Delete, u"2"_s); },
+                                                   [this] { Choose(Sort); }};
+    for (const auto& task : tasks) {
+        SetDate(u"6/7/2001"_s);
+        TypeDraw({u"44"_s, u"45"_s});
+        task();
+        EXPECT_EQ(Box(u"InDate"_s).text(), u"6/7/2001"_s);
+        EXPECT_EQ(NumberTexts().mid(0, 3), (QStringList{u"44"_s, u"45"_s, QString()}));
+    }
+    TypeDraw({u"44"_s, u"45"_s, u"46"_s, u"47"_s, u"48"_s, u"49"_s});
+    Click(u"DCalc"_s);
+    EXPECT_EQ(DateOf(5), QDate(2001, 6, 7));
+}
+
 TEST_F(Correcting, LeavingGivesTheCorrectionUp)
 {
     OpenWith(5);
