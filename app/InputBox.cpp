@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDragEnterEvent>
+#include <QHideEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPalette>
@@ -211,6 +212,15 @@ void InputBox::focusOutEvent(QFocusEvent* event)
     QApplication::clipboard()->clear();
     if (due) {
         Q_EMIT MessageDue(*due);
+    }
+}
+
+void InputBox::hideEvent(QHideEvent* event)
+{
+    QLineEdit::hideEvent(event);
+    // A dialog closes over the box the user typed in: the mark is not the next box's.
+    if (m_shared != nullptr && !event->spontaneous() && window()->focusWidget() == this) {
+        m_shared->entryEdited = 0;
     }
 }
 

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 
+#include <algorithm>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -31,18 +32,29 @@ InRecNum::InRecNum(LGLOBAL& shared, QWidget* mainWindow)
     : QDialog(mainWindow), m_shared(shared), m_ui(std::make_unique<Ui::InRecNum>())
 {
     m_ui->setupUi(this);
+    // The line breaks at its blanks in the middle, and has room for two lines under any option.
+    const QFontMetrics metrics(font());
+    m_ui->Label1->setFixedWidth(metrics.horizontalAdvance(u" Type in the record number       "_s));
+    m_ui->Label1->setMinimumHeight(2 * (std::max(metrics.height(), metrics.lineSpacing()) + 1));
+
     InputRules number;
     number.enter = [this] { m_ui->Accept->click(); };
     m_ui->CurVal->Follow(m_shared, number);
 
     CorInsDel = {m_ui->CorInsDel0, m_ui->CorInsDel1, m_ui->CorInsDel2, m_ui->CorInsDel3};
     for (std::size_t i = 0; i < CorInsDel.size(); ++i) {
-        CorInsDel.at(i)->installEventFilter(this);
-        connect(CorInsDel.at(i), &QRadioButton::toggled, this, [this, i](bool chosen) {
+        QRadioButton* option = CorInsDel.at(i);
+        option->installEventFilter(this);
+        option->setFocusPolicy(Qt::ClickFocus);
+        connect(option, &QRadioButton::toggled, this, [this, option, i](bool chosen) {
+            // The Tab key leads to the chosen option from either side.
+            option->setFocusPolicy(chosen ? Qt::StrongFocus : Qt::ClickFocus);
             if (chosen) {
                 Choose(static_cast<EditMode>(i + 1));
             }
         });
+        connect(option, &QRadioButton::clicked, this,
+                [this, i] { Choose(static_cast<EditMode>(i + 1)); }); // also when it was chosen already
     }
     connect(m_ui->Accept, &QPushButton::clicked, this, &InRecNum::AcceptChoice);
     connect(m_ui->NoAccept, &QPushButton::clicked, this, &InRecNum::reject);
@@ -110,11 +122,16 @@ bool InRecNum::eventFilter(QObject* watched, QEvent* event)
     }
     const auto* key = static_cast<QKeyEvent*>(event);
     if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
-        m_ui->CurVal->setFocus(Qt::TabFocusReason);
+        QWidget* next = m_ui->CurVal;
+        if (!next->isEnabled()) {
+            next = m_ui->Accept; // no number to type
+        }
+        next->setFocus(Qt::TabFocusReason);
         return true;
     }
     const QString typed = key->text();
-    const bool isCharacter = !typed.isEmpty() && typed.front() > u' ' && key->modifiers() == Qt::NoModifier;
+    const bool isCommand = (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
+    const bool isCharacter = !typed.isEmpty() && typed.front() > u' ' && !isCommand;
     if (isCharacter && FilterDigitKey(typed.front().unicode()) == 0) {
         QApplication::beep();
         return true;

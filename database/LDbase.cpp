@@ -174,6 +174,10 @@ void LDbase::ConnectCommands()
                     remember(current);
                 }
             });
+    connect(m_ui->DGrid1->horizontalHeader(), &QHeaderView::sectionClicked, this, [this] {
+        m_ui->DGrid1->clearSelection(); // the heading is no record
+        Shared().ClickedRecord = 0;
+    });
 }
 
 void LDbase::Load()
@@ -348,7 +352,10 @@ QStringList LDbase::NumberTexts() const
 std::optional<Message> LDbase::LeaveDate(InputBox& box)
 {
     const QString typed = box.text();
-    const std::optional<QDate> date = ParseShortDate(typed, Shared().locale);
+    std::optional<QDate> date = ParseShortDate(typed, Shared().locale);
+    if (date == DeletionMark()) {
+        date.reset(); // a draw that carried the mark would be dropped by the next sort
+    }
     NewDate = date.value_or(NewDate);
     box.setText(ShortDate(NewDate, Shared().locale));
     // A click empties the box: leaving it so is no mistake.
@@ -497,8 +504,8 @@ void LDbase::CorrectRecord()
         DeleteRec();
         break;
     case EditMode::Sort:
-        SortAndShow();
         EndTask();
+        SortAndShow();
         break;
     case EditMode::Normal:
         break;
@@ -511,10 +518,9 @@ void LDbase::BeginCorrection()
     const DrawRecord& record = Shared().database.records.at(static_cast<std::size_t>(number));
     MakInvisible();
     m_ui->InNew->setText(QString::number(number));
-    // A record whose date cannot be read shows an empty box, to be filled.
-    const std::optional<QDate> date = CellDate(record.date, Shared().locale);
-    NewDate = date.value_or(NewDate);
-    m_ui->InDate->setText(date ? ShortDate(*date, Shared().locale) : QString());
+    // A record whose date cannot be read shows an empty box, which stays so until a date is typed.
+    NewDate = CellDate(record.date, Shared().locale).value_or(QDate());
+    m_ui->InDate->setText(ShortDate(NewDate, Shared().locale));
     for (std::size_t i = 0; i < DYourNumIn.size(); ++i) {
         DYourNumIn.at(i)->setText(Format(CellText(record.drawn.at(i)), u"##"));
     }
@@ -530,8 +536,9 @@ void LDbase::BeginInsertion()
     }
     MakInvisible();
     m_ui->InNew->setText(u"Insert"_s);
-    m_ui->InDate->setFocus();
+    NewDate = QDate();
     m_ui->InDate->clear();
+    m_ui->InDate->setFocus();
 }
 
 bool LDbase::RowIsRefused()
@@ -540,8 +547,14 @@ bool LDbase::RowIsRefused()
         CheckNumbers(NumberTexts(), Shared().database.highest, kMendedNumberIsZero);
     if (fault) {
         Show(Shared(), Asking(), {.number = fault->message, .arg1 = fault->arg1});
+        return true;
     }
-    return fault.has_value();
+    if (!NewDate.isValid()) {
+        Show(Shared(), Asking(), {.number = kNotAProperDate});
+        m_ui->InDate->setFocus();
+        return true;
+    }
+    return false;
 }
 
 bool LDbase::DateIsRefused()
@@ -609,9 +622,12 @@ void LDbase::SortAndShow()
 
 void LDbase::ShowAgain(int unreadable)
 {
+    Shared().ClickedRecord = 0; // the records may have moved
     ClearAllCels();
     FillRecordsGrid();
-    AdvanceDate();
+    if (NumberTexts().join(QString()).isEmpty()) { // a draw that is half typed keeps its date
+        AdvanceDate();
+    }
     ComputeNumberStats(Shared());
     ShowStatistics();
     DYourNumIn.front()->setFocus();
