@@ -511,7 +511,7 @@ TEST_F(ExtractForm, TheTabKeyWalksInReadingOrder)
 TEST_F(ExtractForm, EnterOnAButtonPressesIt)
 {
     StartWith(3);
-    Extracting([this](QWidget& form) {
+    Extracting([](QWidget& form) {
         In<QPushButton>(form, u"EHelp"_s).setFocus();
         QTest::keyClick(form.focusWidget(), Qt::Key_Return);
         EXPECT_EQ(In<QPushButton>(form, u"EHelp"_s).text(), u"Close &Help"_s);
