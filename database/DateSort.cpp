@@ -42,9 +42,9 @@ void ShellSort(std::vector<Place>& places, int count)
     }
 }
 
-} // namespace
-
-int SortByDate(DrawDatabase& database, const QLocale& locale)
+/// @param toDelete  the record that was marked just now, 0 for none: it goes behind others that came with the
+/// mark
+int SortAndDropLast(DrawDatabase& database, const QLocale& locale, int toDelete)
 {
     const int count = database.count;
     std::vector<Place> places(static_cast<std::size_t>(count) + 1);
@@ -53,6 +53,9 @@ int SortByDate(DrawDatabase& database, const QLocale& locale)
         const auto index = static_cast<std::size_t>(row);
         places[index] = {SortDay(database.records[index].date, locale), row, false};
         unreadable += places[index].day == kBeforeAnyDate ? 1 : 0;
+        if (toDelete != 0 && row != toDelete && places[index].day == kAfterAnyDate) {
+            places[index].day = kAfterAnyDate - 1; // a file may hold such a date
+        }
     }
     // The exchanges are made on the days alone and on the records once, at the end.
     ShellSort(places, count);
@@ -77,11 +80,18 @@ int SortByDate(DrawDatabase& database, const QLocale& locale)
     return unreadable;
 }
 
+} // namespace
+
+int SortByDate(DrawDatabase& database, const QLocale& locale)
+{
+    return SortAndDropLast(database, locale, 0);
+}
+
 int DeleteRecord(DrawDatabase& database, int record, const QLocale& locale)
 {
     if (record < 1 || record > database.count) {
         return 0;
     }
     database.records[static_cast<std::size_t>(record)].date = DeletionMark();
-    return SortByDate(database, locale);
+    return SortAndDropLast(database, locale, record);
 }

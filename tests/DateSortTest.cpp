@@ -521,3 +521,19 @@ TEST(DateSort, AFileWrittenAfterADeletionHoldsNoMark)
         EXPECT_EQ(bytes.count("#"), 4) << bytes.toStdString(); // two dates
     }
 }
+
+TEST(DateSort, DeletingTakesTheChosenRecordAlsoAmongOthersOfTheMarksDate)
+{
+    for (int chosen = 1; chosen <= 4; ++chosen) {
+        DrawDatabase database;
+        database.columns = 3;
+        for (int record = 1; record <= 4; ++record) {
+            database.Append(record % 2 == 0 ? QDate(2500, 2, 19) : QDate(2000, 1, record), {record * 10});
+        }
+        DeleteRecord(database, chosen, QLocale::c());
+        ASSERT_EQ(database.count, 3);
+        for (int row = 1; row <= 3; ++row) {
+            EXPECT_NE(CellNumber(database.records[static_cast<std::size_t>(row)].drawn[0]), chosen * 10);
+        }
+    }
+}
