@@ -90,7 +90,11 @@ void AddDialog(Album& album, const TourDialog& stop)
     QCoreApplication::processEvents();
     ClickIn(*dialog, stop.button);
     TakeThree(album, *dialog, stop.name);
-    dialog->done(QDialog::Rejected); // not reject, which may be a form's way of leaving and saving
+    if (stop.savesWhenLeft) {
+        dialog->done(QDialog::Rejected);
+    } else {
+        dialog->reject();
+    }
 }
 
 } // namespace

@@ -23,6 +23,7 @@ struct TourDialog {
     QString name;                                   ///< of the pictures
     std::function<std::unique_ptr<QDialog>()> make; ///< called while the main window is shown
     QString button;                                 ///< clicked after the dialog is shown; "" for none
+    bool savesWhenLeft = false; ///< its way of leaving is to save: on the tour it is just put away
 };
 
 /// Where the tour leads.

@@ -96,7 +96,7 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
         {u"InRecNum-insert"_s, records, u"CorInsDel1"_s},
         {u"InRecNum-delete"_s, records, u"CorInsDel2"_s},
         {u"InRecNum-sort"_s, records, u"CorInsDel3"_s},
-        {u"ChangeFnt"_s, settings, {}},
+        {u"ChangeFnt"_s, settings, {}, true},
         {u"Extract"_s, extract, {}},
         {u"Extract-help"_s, extract, u"EHelp"_s},
     };
