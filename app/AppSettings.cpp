@@ -2,7 +2,10 @@
 
 #include "app/DrawDatabase.h"
 #include "app/FieldReader.h"
+#include "app/FieldWriter.h"
 #include "app/TextPictures.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -30,6 +33,23 @@ qint16 WithinOr(qint16 value, int highest, qint16 fallback)
 }
 
 } // namespace
+
+Outcome WriteSettings(const AppSettings& settings, QByteArray& bytes)
+{
+    FieldWriter writer;
+    writer.Number(settings.printerFont);
+    writer.Number(settings.defaultPicks);
+    writer.Number(settings.defaultHighest);
+    writer.Number(settings.entryForms);
+    writer.Text(settings.currencySymbol);
+    writer.Text(settings.userName);
+    writer.EndLine();
+    if (!writer.EverythingHadAPlace()) {
+        return Outcome::Failure(u"A text has a character that the settings file cannot hold."_s);
+    }
+    bytes = writer.Bytes();
+    return {};
+}
 
 bool ReadSettings(const QByteArray& bytes, AppSettings& settings)
 {

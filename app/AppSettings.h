@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/Outcome.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -14,6 +16,10 @@ struct AppSettings {
 
     bool operator==(const AppSettings&) const = default;
 };
+
+/// The one line of the settings file.
+/// Fails when a text has a character outside ISO 8859-1.
+[[nodiscard]] Outcome WriteSettings(const AppSettings& settings, QByteArray& bytes);
 
 /// Reads the one line of a settings file into @p settings, field by field.
 ///

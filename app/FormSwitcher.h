@@ -25,6 +25,11 @@ public:
     /// have yet is said so plainly, and the one that is shown stays.
     virtual void ShowForm(FormName name) = 0;
 
+    /// Takes the form that is shown out of sight, runs a modal dialog, and returns when it is closed. A
+    /// dialog that this version does not have yet is said so plainly, and the form that is shown stays.
+    /// @return whether there is such a dialog.
+    virtual bool RunDialog(FormName name) = 0;
+
     /// Takes the form that is shown out of sight until ShowForm.
     virtual void HideForm() = 0;
 

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDragEnterEvent>
+#include <QHideEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPalette>
@@ -81,6 +82,8 @@ int InputBox::Filter(int key) const
         return FilterDateKey(key);
     case InputRules::Keys::FileText:
         return FilterFileTextKey(key);
+    case InputRules::Keys::QuotedText:
+        return FilterQuotedTextKey(key);
     }
     return 0;
 }
@@ -126,7 +129,9 @@ void InputBox::keyPressEvent(QKeyEvent* event)
         return;
     }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        if (QWidget* next = m_rules.next ? m_rules.next() : nullptr) {
+        if (m_rules.enter) {
+            m_rules.enter();
+        } else if (QWidget* next = m_rules.next ? m_rules.next() : nullptr) {
             next->setFocus(Qt::TabFocusReason);
         }
         return;
@@ -207,6 +212,15 @@ void InputBox::focusOutEvent(QFocusEvent* event)
     QApplication::clipboard()->clear();
     if (due) {
         Q_EMIT MessageDue(*due);
+    }
+}
+
+void InputBox::hideEvent(QHideEvent* event)
+{
+    QLineEdit::hideEvent(event);
+    // A dialog closes over the box the user typed in: the mark is not the next box's.
+    if (m_shared != nullptr && !event->spontaneous() && window()->focusWidget() == this) {
+        m_shared->entryEdited = 0;
     }
 }
 

@@ -16,7 +16,7 @@ using LeaveRule = std::function<std::optional<Message>(InputBox& box, bool edite
 
 /// How one input box differs from the others.
 struct InputRules {
-    enum class Keys { Digits, Decimal, Date, FileText };
+    enum class Keys { Digits, Decimal, Date, FileText, QuotedText };
     enum class Click {
         EmptiesBox,  ///< the common pattern: a click empties, the first key replaces
         SelectsText, ///< the focus selects the text, so that a mere click loses nothing
@@ -24,6 +24,7 @@ struct InputRules {
     Keys keys = Keys::Digits;
     Click click = Click::EmptiesBox;
     std::function<QWidget*()> next{}; ///< where Enter leads; nowhere when empty
+    std::function<void()> enter{};    ///< what Enter does, where it leads to no other box
     LeaveRule leave{};                ///< nothing to check when empty
 };
 
@@ -58,6 +59,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
 
 private:

@@ -43,3 +43,8 @@ int FilterFileTextKey(int key)
 {
     return IsErasing(key) || (key >= ' ' && key <= kLastFileCharacter) ? key : 0;
 }
+
+int FilterQuotedTextKey(int key)
+{
+    return key == '"' ? 0 : FilterFileTextKey(key);
+}

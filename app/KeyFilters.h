@@ -20,6 +20,10 @@ inline constexpr int kDeleteKey = 127;
 /// @return the key, or 0 when it is dropped; the caller sounds the beep for a dropped key.
 [[nodiscard]] int FilterDateKey(int key);
 
+/// Keeps what FilterFileTextKey keeps but the double quote, which would end a text in a file.
+/// @return the key, or 0 when it is dropped; the caller sounds the beep for a dropped key.
+[[nodiscard]] int FilterQuotedTextKey(int key);
+
 /// Keeps every character that the program's files can hold (ISO 8859-1).
 /// @return the key, or 0 when it is dropped; the caller sounds the beep for a dropped key.
 [[nodiscard]] int FilterFileTextKey(int key);

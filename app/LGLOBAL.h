@@ -42,6 +42,7 @@ struct LGLOBAL {
     // Files
     qint16 fileDialogMode = kFileDialogIdle;
     QString chosenPath;         ///< full path picked in the file dialog; "" when idle
+    QString programFolder;      ///< where "Personal.Lot", "Sample.Lto" and "Extract.lto" are
     QString dialogFolder;       ///< folder the file dialog was last in; "" for the current folder
     QString investmentFileName; ///< name of the investment statement last opened or saved
 

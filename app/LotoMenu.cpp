@@ -37,21 +37,21 @@ LotoMenu::~LotoMenu() = default;
 
 void LotoMenu::ConnectButtons()
 {
-    OnClick(m_ui->DBaseForm, [this] {
+    Events().OnClick(m_ui->DBaseForm, [this] {
         Asking().SetBusyPointer(true);
         Switcher().ShowForm(FormName::LDbase);
     });
-    OnClick(m_ui->LoadFile, [this] { OpenFile(); });
-    OnClick(m_ui->SaveFile, [this] { SaveFileToDisk(); });
-    OnClick(m_ui->PickForm, [this] { Switcher().ShowForm(FormName::Lottery); });
-    OnClick(m_ui->CheckWin, [this] { ShowWithRecords(FormName::LCheckWin); });
-    OnClick(m_ui->ShowGraph1, [this] { ShowGraphs(); });
-    OnClick(m_ui->SelectRec, [this] { ShowWithRecords(FormName::Extract); });
-    OnClick(m_ui->InvTrack, [this] { Switcher().ShowForm(FormName::LInvTrack); });
-    OnClick(m_ui->PtrFnt, [this] { Switcher().ShowForm(FormName::ChangeFnt); });
-    OnClick(m_ui->PrintDbase, [this] { PrintDatabase(); });
-    OnClick(m_ui->HowtoUse, [this] { Switcher().TellComesLater(u"'How to Use the Program'"_s); });
-    OnClick(m_ui->Exit1Butt, [this] { Exit(); });
+    Events().OnClick(m_ui->LoadFile, [this] { OpenFile(); });
+    Events().OnClick(m_ui->SaveFile, [this] { SaveFileToDisk(); });
+    Events().OnClick(m_ui->PickForm, [this] { Switcher().ShowForm(FormName::Lottery); });
+    Events().OnClick(m_ui->CheckWin, [this] { ShowWithRecords(FormName::LCheckWin); });
+    Events().OnClick(m_ui->ShowGraph1, [this] { ShowGraphs(); });
+    Events().OnClick(m_ui->SelectRec, [this] { ExtractRecords(); });
+    Events().OnClick(m_ui->InvTrack, [this] { Switcher().ShowForm(FormName::LInvTrack); });
+    Events().OnClick(m_ui->PtrFnt, [this] { Personalize(); });
+    Events().OnClick(m_ui->PrintDbase, [this] { PrintDatabase(); });
+    Events().OnClick(m_ui->HowtoUse, [this] { Switcher().TellComesLater(u"'How to Use the Program'"_s); });
+    Events().OnClick(m_ui->Exit1Butt, [this] { Exit(); });
 }
 
 void LotoMenu::resizeEvent(QResizeEvent* event)
@@ -136,6 +136,22 @@ void LotoMenu::ShowGraphs()
         Shared().graphCaller = kGraphFromMenu;
     }
     ShowWithRecords(FormName::LGraph);
+}
+
+void LotoMenu::Personalize()
+{
+    Switcher().RunDialog(FormName::ChangeFnt);
+    ShowUserName();
+    Switcher().ShowForm(FormName::LotoMenu);
+}
+
+void LotoMenu::ExtractRecords()
+{
+    if (Shared().database.count < 1) {
+        Show(Shared(), Asking(), {.number = kNoRecordsToWorkWith});
+    } else if (Switcher().RunDialog(FormName::Extract)) {
+        Switcher().ShowForm(FormName::LDbase); // also after a cancel
+    }
 }
 
 void LotoMenu::PrintDatabase()

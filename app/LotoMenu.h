@@ -41,6 +41,8 @@ private:
     void SaveFileToDisk();
     void ShowWithRecords(FormName form);
     void ShowGraphs();
+    void Personalize();
+    void ExtractRecords();
     void PrintDatabase();
     void Exit();
 

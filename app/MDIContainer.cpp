@@ -58,6 +58,11 @@ void MDIContainer::AddForm(FormName name, FormMaker maker)
     m_makers[name] = std::move(maker);
 }
 
+void MDIContainer::AddDialog(FormName name, DialogRunner runner)
+{
+    m_dialogs[name] = std::move(runner);
+}
+
 void MDIContainer::Start()
 {
     m_menu->Load();
@@ -96,6 +101,18 @@ void MDIContainer::ShowForm(FormName name)
     HideForm();
     form->Load();
     BringToFront(form);
+}
+
+bool MDIContainer::RunDialog(FormName name)
+{
+    const auto runner = m_dialogs.find(name);
+    if (runner == m_dialogs.end()) {
+        TellComesLater(NameOf(name));
+        return false;
+    }
+    HideForm();
+    runner->second(*this, this);
+    return true;
 }
 
 void MDIContainer::HideForm()

@@ -18,10 +18,16 @@ public:
     /// Makes a working form inside the given parent.
     using FormMaker = std::function<WorkingForm*(FormSwitcher& switcher, QWidget* parent)>;
 
+    /// Makes a modal dialog over the main window and runs it until it is closed.
+    using DialogRunner = std::function<void(FormSwitcher& switcher, QWidget* mainWindow)>;
+
     MDIContainer(LGLOBAL& shared, Prompts& prompts, const QString& programFolder);
 
     /// Says how a form is made when it is first shown.
     void AddForm(FormName name, FormMaker maker);
+
+    /// Says how a dialog is run.
+    void AddDialog(FormName name, DialogRunner runner);
 
     /// The menu's start and the window's place: left 0, top 0, 9,615 by 6,870 twips, or more where the
     /// desktop's font needs more.
@@ -31,6 +37,7 @@ public:
     [[nodiscard]] const WorkingForm* ActiveForm() const { return m_active; }
 
     void ShowForm(FormName name) override;
+    bool RunDialog(FormName name) override;
     void HideForm() override;
     void TellComesLater(const QString& what) override;
     void SetCaption(const QString& caption) override;
@@ -56,4 +63,5 @@ private:
     WorkingForm* m_active = nullptr; ///< the form that is shown; none while a file dialog of the menu is open
     std::map<FormName, FormMaker> m_makers;
     std::map<FormName, WorkingForm*> m_forms;
+    std::map<FormName, DialogRunner> m_dialogs;
 };

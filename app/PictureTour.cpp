@@ -1,14 +1,9 @@
 #include "app/PictureTour.h"
 
-#include "app/AMsgbox.h"
-#include "app/AllYesNo.h"
-
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QPixmap>
-
-#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -49,64 +44,73 @@ private:
     Outcome m_outcome;
 };
 
-/// Each picture in the four ways a user may see it.
-void TakeAll(Album& album, MDIContainer& window, QSize opening, const std::function<void()>& arrange,
-             const QString& name)
+/// As it is, at twice the density, and in a dark palette.
+void TakeThree(Album& album, QWidget& widget, const QString& name)
 {
-    constexpr QSize kLarge(1280, 800);
-    window.resize(opening);
-    arrange();
-    album.Add(window, name);
-    album.Add(window, name + u"-double"_s, 2);
-
+    album.Add(widget, name);
+    album.Add(widget, name + u"-double"_s, 2);
     const QPalette light = QApplication::palette();
     QApplication::setPalette(DarkPalette());
-    album.Add(window, name + u"-dark"_s);
+    album.Add(widget, name + u"-dark"_s);
     QApplication::setPalette(light);
-
-    window.resize(kLarge);
-    arrange();
-    album.Add(window, name + u"-1280x800"_s);
-    window.resize(opening);
 }
 
-void ShowStop(MDIContainer& window, const TourStop& stop)
+void ClickIn(const QWidget& window, const QString& name)
 {
-    window.ShowForm(stop.form);
-    QCoreApplication::processEvents();
-    if (auto* button = window.findChild<QAbstractButton*>(stop.button)) {
+    if (name.isEmpty()) {
+        return; // findChild would take it for any button
+    }
+    if (auto* button = window.findChild<QAbstractButton*>(name)) {
         button->click();
     }
 }
 
-void AddDialogs(Album& album, LGLOBAL& shared, MDIContainer& window)
+/// A form in the four ways a user may see it.
+void AddStop(Album& album, MDIContainer& window, QSize opening, const TourStop& stop)
 {
-    constexpr qint16 kLongestMessage = 16;
-    constexpr qint16 kGoBackAndSave = 3;
-    shared.messageNumber = kLongestMessage;
-    AMsgbox message(shared, &window);
-    message.show();
-    album.Add(message, u"AMsgbox"_s);
-    shared.questionNumber = kGoBackAndSave;
-    AllYesNo question(shared, &window);
-    question.show();
-    album.Add(question, u"AllYesNo"_s);
+    constexpr QSize kLarge(1280, 800);
+    const auto arrange = [&window, &stop] {
+        window.ShowForm(stop.form);
+        QCoreApplication::processEvents();
+        ClickIn(window, stop.button);
+    };
+    window.resize(opening);
+    arrange();
+    TakeThree(album, window, stop.name);
+    window.resize(kLarge);
+    arrange();
+    album.Add(window, stop.name + u"-1280x800"_s);
+    window.resize(opening);
+}
+
+void AddDialog(Album& album, const TourDialog& stop)
+{
+    const std::unique_ptr<QDialog> dialog = stop.make();
+    dialog->show();
+    QCoreApplication::processEvents();
+    ClickIn(*dialog, stop.button);
+    TakeThree(album, *dialog, stop.name);
+    if (stop.savesWhenLeft) {
+        dialog->done(QDialog::Rejected);
+    } else {
+        dialog->reject();
+    }
 }
 
 } // namespace
 
-Outcome TakePictures(LGLOBAL& shared, MDIContainer& window, const std::vector<TourStop>& stops,
-                     const QString& folder)
+Outcome TakePictures(MDIContainer& window, const Tour& tour, const QString& folder)
 {
     if (!QDir().mkpath(folder)) {
         return Outcome::Failure(u"The folder \"%1\" cannot be made."_s.arg(folder));
     }
     Album album(folder);
     const QSize opening = window.size();
-    for (const TourStop& stop : stops) {
-        TakeAll(
-            album, window, opening, [&] { ShowStop(window, stop); }, stop.name);
+    for (const TourStop& stop : tour.stops) {
+        AddStop(album, window, opening, stop);
     }
-    AddDialogs(album, shared, window);
+    for (const TourDialog& dialog : tour.dialogs) {
+        AddDialog(album, dialog);
+    }
     return album.Result();
 }

@@ -6,11 +6,28 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Not left to the current folder, which a system's file dialog may change.
+QString SettingsPath(const LGLOBAL& shared)
+{
+    return QDir(shared.programFolder).filePath(u"Personal.Lot"_s);
+}
+
+} // namespace
+
+Outcome WritePersonalSettings(const LGLOBAL& shared)
+{
+    QByteArray bytes;
+    const Outcome written = WriteSettings(shared.settings, bytes);
+    return written.ok ? SaveFileBytes(SettingsPath(shared), bytes) : written;
+}
+
 void ReadPersonalSettings(LGLOBAL& shared)
 {
     constexpr qint16 kLinesPerPage = 53;
     QByteArray bytes;
-    const Outcome read = ReadFileBytes(u"Personal.Lot"_s, bytes);
+    const Outcome read = ReadFileBytes(SettingsPath(shared), bytes);
     const bool complete = ReadSettings(read.ok ? bytes : QByteArray(), shared.settings);
     if (complete) {
         shared.database.highest = shared.settings.defaultHighest;
@@ -21,6 +38,7 @@ void ReadPersonalSettings(LGLOBAL& shared)
 void InitialiseSharedState(LGLOBAL& shared, const QString& programFolder)
 {
     QDir::setCurrent(programFolder);
+    shared.programFolder = programFolder;
 
     shared.NumberStats = {};
     shared.sortedNumberStats = {};

@@ -8,5 +8,8 @@
 /// new and empty, the personal settings are read, and the empty database takes their shape.
 void InitialiseSharedState(LGLOBAL& shared, const QString& programFolder);
 
-/// Reads "Personal.Lot" of the current folder. Whatever is wrong with the file, defaults stand in silently.
+/// Writes the personal settings to "Personal.Lot" of the program folder, in the place of the old file.
+[[nodiscard]] Outcome WritePersonalSettings(const LGLOBAL& shared);
+
+/// Reads "Personal.Lot" of the program folder. Whatever is wrong with the file, defaults stand in silently.
 void ReadPersonalSettings(LGLOBAL& shared);

@@ -1,8 +1,13 @@
+#include "app/AMsgbox.h"
+#include "app/AllYesNo.h"
+#include "app/ChangeFnt.h"
 #include "app/DialogPrompts.h"
 #include "app/LGLOBAL.h"
 #include "app/MDIContainer.h"
 #include "app/PictureTour.h"
 #include "app/ProgramFolder.h"
+#include "database/Extract.h"
+#include "database/InRecNum.h"
 #include "database/LDbase.h"
 
 #include <QApplication>
@@ -69,16 +74,45 @@ CommandLine ReadCommandLine(const QStringList& arguments)
     return line;
 }
 
-int TakeTour(LGLOBAL& shared, MDIContainer& window, const CommandLine& line)
+std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContainer& window)
+{
+    const auto message = [&] {
+        constexpr qint16 kLongest = 16;
+        shared.messageNumber = kLongest;
+        return std::make_unique<AMsgbox>(shared, &window);
+    };
+    const auto question = [&] {
+        constexpr qint16 kGoBackAndSave = 3;
+        shared.questionNumber = kGoBackAndSave;
+        return std::make_unique<AllYesNo>(shared, &window);
+    };
+    const auto records = [&] { return std::make_unique<InRecNum>(shared, &window); };
+    const auto settings = [&] { return std::make_unique<ChangeFnt>(shared, prompts, window, &window); };
+    const auto extract = [&] { return std::make_unique<Extract>(shared, prompts, window, &window); };
+    return {
+        {u"AMsgbox"_s, message, {}},
+        {u"AllYesNo"_s, question, {}},
+        {u"InRecNum"_s, records, {}},
+        {u"InRecNum-insert"_s, records, u"CorInsDel1"_s},
+        {u"InRecNum-delete"_s, records, u"CorInsDel2"_s},
+        {u"InRecNum-sort"_s, records, u"CorInsDel3"_s},
+        {u"ChangeFnt"_s, settings, {}, true},
+        {u"Extract"_s, extract, {}},
+        {u"Extract-help"_s, extract, u"EHelp"_s},
+    };
+}
+
+int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const CommandLine& line)
 {
     window.Menu().OpenNamedFile(line.file.isEmpty() ? kSample : line.file);
     window.ShowForm(FormName::LotoMenu);
-    const std::vector<TourStop> stops{
-        {FormName::LotoMenu, u"LotoMenu"_s, {}},
-        {FormName::LDbase, u"LDbase"_s, {}},
-        {FormName::LDbase, u"LDbase-help"_s, u"DHelp"_s},
+    const Tour tour{
+        .stops = {{FormName::LotoMenu, u"LotoMenu"_s, {}},
+                  {FormName::LDbase, u"LDbase"_s, {}},
+                  {FormName::LDbase, u"LDbase-help"_s, u"DHelp"_s}},
+        .dialogs = TourDialogs(shared, prompts, window),
     };
-    const Outcome taken = TakePictures(shared, window, stops, line.tourFolder);
+    const Outcome taken = TakePictures(window, tour, line.tourFolder);
     Print(taken.ok ? stdout : stderr,
           (taken.ok ? u"Pictures saved in "_s + line.tourFolder : taken.reason) + u'\n');
     return taken.ok ? 0 : 1;
@@ -115,10 +149,16 @@ int main(int argc, char* argv[])
     window.AddForm(FormName::LDbase, [&](FormSwitcher& switcher, QWidget* parent) {
         return new LDbase(shared, prompts, switcher, parent);
     });
+    window.AddDialog(FormName::ChangeFnt, [&](FormSwitcher& switcher, QWidget* mainWindow) {
+        ChangeFnt(shared, prompts, switcher, mainWindow).exec();
+    });
+    window.AddDialog(FormName::Extract, [&](FormSwitcher& switcher, QWidget* mainWindow) {
+        Extract(shared, prompts, switcher, mainWindow).exec();
+    });
     window.Start();
     window.show();
     if (!line.tourFolder.isEmpty()) {
-        return TakeTour(shared, window, line);
+        return TakeTour(shared, prompts, window, line);
     }
     if (!line.file.isEmpty()) {
         QTimer::singleShot(0, &window, [&] { window.Menu().OpenNamedFile(line.file); });

@@ -5,7 +5,9 @@
 #include "app/ShortDate.h"
 #include "app/TextPictures.h"
 #include "database/CountsDelegate.h"
+#include "database/DateSort.h"
 #include "database/EditorHelp.h"
+#include "database/InRecNum.h"
 #include "database/NewRow.h"
 #include "database/NextDrawDate.h"
 #include "database/TopNumbers.h"
@@ -22,12 +24,15 @@ namespace {
 constexpr int kNoDataToGraph = 2;
 constexpr int kNewNumberIsZero = 6;
 constexpr int kNoRecordToCorrect = 18;
+constexpr int kCannotSort = 23;
 constexpr int kFromOneToTen = 27;
 constexpr int kFromOneToSixty = 28;
 constexpr int kNotAProperDate = 30;
 constexpr int kNoRecordToAdd = 36;
+constexpr int kMendedNumberIsZero = 38;
 constexpr int kDuplicateNumbers = 37;
 constexpr int kDeleteAllFirst = 40;
+constexpr int kRecordDoesNotExist = 41;
 constexpr int kMostRecords = 45;
 constexpr int kGoBackAndSave = 3;
 constexpr qint16 kGraphFromEditor = 2;
@@ -57,7 +62,7 @@ LDbase::LDbase(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QWidge
     SetUpInputs();
     SetUpNumberBoxes();
     ConnectCommands();
-    WatchInputBoxes();
+    Events().WatchInputBoxes();
 }
 
 LDbase::~LDbase() = default;
@@ -140,21 +145,21 @@ void LDbase::SetUpNumberBoxes()
 
 void LDbase::ConnectCommands()
 {
-    OnClick(m_ui->DCalc, [this] { AddRecord(); });
-    OnClick(m_ui->DCorrectRec, [this] { CorrectRecord(); });
-    OnClick(m_ui->DDeleteAll, [this] { DeleteAll(); });
-    OnClick(m_ui->DGraphs, [this] { ShowGraph(); });
-    OnClick(m_ui->DHelp, [this] { ShowHelp(m_ui->HelpBoxD->isHidden()); });
-    OnClick(m_ui->DExit, [this] { Exit(); });
-    OnClick(m_ui->WhichCnt, [this] { SwitchCount(); });
-    OnClick(m_ui->Duponoff, [this] { AllowDuplicates = m_ui->Duponoff->isChecked(); });
+    Events().OnClick(m_ui->DCalc, [this] { AddRecord(); });
+    Events().OnClick(m_ui->DCorrectRec, [this] { CorrectRecord(); });
+    Events().OnClick(m_ui->DDeleteAll, [this] { DeleteAll(); });
+    Events().OnClick(m_ui->DGraphs, [this] { ShowGraph(); });
+    Events().OnClick(m_ui->DHelp, [this] { ShowHelp(m_ui->HelpBoxD->isHidden()); });
+    Events().OnClick(m_ui->DExit, [this] { Exit(); });
+    Events().OnClick(m_ui->WhichCnt, [this] { SwitchCount(); });
+    Events().OnClick(m_ui->Duponoff, [this] { AllowDuplicates = m_ui->Duponoff->isChecked(); });
 
     DaysofWeek = {m_ui->DaysofWeek0, m_ui->DaysofWeek1, m_ui->DaysofWeek2, m_ui->DaysofWeek3,
                   m_ui->DaysofWeek4, m_ui->DaysofWeek5, m_ui->DaysofWeek6};
     for (std::size_t i = 0; i < DaysofWeek.size(); ++i) {
         QCheckBox* box = DaysofWeek.at(i);
-        OnClick(box,
-                [this, box, i] { Shared().database.CheckDay(static_cast<int>(i) + 1, box->isChecked()); });
+        Events().OnClick(
+            box, [this, box, i] { Shared().database.CheckDay(static_cast<int>(i) + 1, box->isChecked()); });
     }
     connect(m_ui->InFileName, &QLineEdit::textEdited, this,
             [this](const QString& title) { Shared().database.title = title; });
@@ -169,6 +174,10 @@ void LDbase::ConnectCommands()
                     remember(current);
                 }
             });
+    connect(m_ui->DGrid1->horizontalHeader(), &QHeaderView::sectionClicked, this, [this] {
+        m_ui->DGrid1->clearSelection(); // the heading is no record
+        Shared().ClickedRecord = 0;
+    });
 }
 
 void LDbase::Load()
@@ -186,6 +195,7 @@ void LDbase::Load()
     m_ui->WhichCnt->setChecked(true);
     shared.WhichCnt = CountMode::TimesDrawn;
     shared.ClickedRecord = 0;
+    EndTask();
     EmptyNumberBoxes();
 
     BuildRecordsGrid();
@@ -200,7 +210,7 @@ void LDbase::Load()
 
     // Opening runs the same limit test as adding, so an over-full database is told at once.
     if (IsFull(shared.database)) {
-        ShowLater({.number = kMostRecords});
+        Events().ShowLater({.number = kMostRecords});
     }
     m_ui->DGrid1->scrollToTop();
     if (shared.database.count > 0) {
@@ -342,7 +352,10 @@ QStringList LDbase::NumberTexts() const
 std::optional<Message> LDbase::LeaveDate(InputBox& box)
 {
     const QString typed = box.text();
-    const std::optional<QDate> date = ParseShortDate(typed, Shared().locale);
+    std::optional<QDate> date = ParseShortDate(typed, Shared().locale);
+    if (date == DeletionMark()) {
+        date.reset(); // a draw that carried the mark would be dropped by the next sort
+    }
     NewDate = date.value_or(NewDate);
     box.setText(ShortDate(NewDate, Shared().locale));
     // A click empties the box: leaving it so is no mistake.
@@ -382,7 +395,16 @@ void LDbase::AddRecord()
         Show(Shared(), Asking(), {.number = kDuplicateNumbers});
         return;
     }
-    Shared().database.modified = 1; // before the row's own checks: asking once too often loses nothing
+    if (Shared().editMode == EditMode::Correct) {
+        ApplyCorrection();
+        return;
+    }
+    if (Shared().editMode == EditMode::Insert) {
+        InsertRec();
+        return;
+    }
+    // Only a new record sets the mark, and before the row's own checks: asking once too often loses nothing.
+    Shared().database.modified = 1;
     AddNewRow();
 }
 
@@ -399,10 +421,7 @@ void LDbase::AddNewRow()
         return;
     }
     Asking().SetBusyPointer(true);
-    constexpr int kTooFewSpareRows = 4;
-    if (database.count + kTooFewSpareRows == m_records.GridRows()) {
-        BuildRecordsGrid();
-    }
+    RebuildWhenFewRowsAreSpare();
     database.Append(NewDate, NumbersIn(boxes));
     FillRecordsGrid();
     AdvanceDate();
@@ -411,6 +430,14 @@ void LDbase::AddNewRow()
     ShowStatistics();
     DYourNumIn.front()->setFocus();
     Asking().SetBusyPointer(false);
+}
+
+void LDbase::RebuildWhenFewRowsAreSpare()
+{
+    constexpr int kTooFewSpareRows = 4;
+    if (Shared().database.count + kTooFewSpareRows == m_records.GridRows()) {
+        BuildRecordsGrid();
+    }
 }
 
 void LDbase::DeleteAll()
@@ -454,8 +481,162 @@ void LDbase::CorrectRecord()
 {
     if (Shared().database.count == 0) {
         Show(Shared(), Asking(), {.number = kNoRecordToCorrect});
-    } else {
-        Switcher().TellComesLater(u"'Correct Record'"_s);
+        return;
+    }
+    InRecNum(Shared(), window()).exec();
+    const LGLOBAL& shared = Shared();
+    if (shared.SelectedRecord == 0) {
+        return;
+    }
+    if (shared.SelectedRecord > shared.database.count) {
+        EndTask();
+        Show(Shared(), Asking(), {.number = kRecordDoesNotExist});
+        return;
+    }
+    switch (shared.editMode) {
+    case EditMode::Correct:
+        BeginCorrection();
+        break;
+    case EditMode::Insert:
+        BeginInsertion();
+        break;
+    case EditMode::Delete:
+        DeleteRec();
+        break;
+    case EditMode::Sort:
+        EndTask();
+        SortAndShow();
+        break;
+    case EditMode::Normal:
+        break;
+    }
+}
+
+void LDbase::BeginCorrection()
+{
+    const qint16 number = Shared().SelectedRecord;
+    const DrawRecord& record = Shared().database.records.at(static_cast<std::size_t>(number));
+    MakInvisible();
+    m_ui->InNew->setText(QString::number(number));
+    // A record whose date cannot be read shows an empty box, which stays so until a date is typed.
+    NewDate = CellDate(record.date, Shared().locale).value_or(QDate());
+    m_ui->InDate->setText(ShortDate(NewDate, Shared().locale));
+    for (std::size_t i = 0; i < DYourNumIn.size(); ++i) {
+        DYourNumIn.at(i)->setText(Format(CellText(record.drawn.at(i)), u"##"));
+    }
+    DYourNumIn.front()->setFocus();
+}
+
+void LDbase::BeginInsertion()
+{
+    if (IsFull(Shared().database)) {
+        EndTask();
+        Show(Shared(), Asking(), {.number = kMostRecords});
+        return;
+    }
+    MakInvisible();
+    m_ui->InNew->setText(u"Insert"_s);
+    NewDate = QDate();
+    m_ui->InDate->clear();
+    m_ui->InDate->setFocus();
+}
+
+bool LDbase::RowIsRefused()
+{
+    const std::optional<EntryFault> fault =
+        CheckNumbers(NumberTexts(), Shared().database.highest, kMendedNumberIsZero);
+    if (fault) {
+        Show(Shared(), Asking(), {.number = fault->message, .arg1 = fault->arg1});
+        return true;
+    }
+    if (!NewDate.isValid()) {
+        Show(Shared(), Asking(), {.number = kNotAProperDate});
+        m_ui->InDate->setFocus();
+        return true;
+    }
+    return false;
+}
+
+bool LDbase::DateIsRefused()
+{
+    const std::optional<EntryFault> fault =
+        CheckNotAfterLastRecord(Shared().database, NewDate, Shared().locale);
+    if (fault) {
+        Show(Shared(), Asking(), {.number = fault->message, .arg1 = fault->arg1});
+    }
+    return fault.has_value();
+}
+
+void LDbase::ApplyCorrection()
+{
+    if (RowIsRefused()) {
+        return; // the correction stays open
+    }
+    if (!DateIsRefused()) {
+        OverwriteRecord(Shared().database, Shared().SelectedRecord, NewDate, NumbersIn(NumberTexts()));
+    }
+    FinishRow();
+}
+
+void LDbase::InsertRec()
+{
+    if (RowIsRefused()) {
+        return; // the insertion stays open
+    }
+    if (!DateIsRefused()) {
+        RebuildWhenFewRowsAreSpare();
+        Shared().database.Append(NewDate, NumbersIn(NumberTexts()));
+    }
+    FinishRow();
+}
+
+void LDbase::DeleteRec()
+{
+    Asking().SetBusyPointer(true);
+    const int unreadable = DeleteRecord(Shared().database, Shared().SelectedRecord, Shared().locale);
+    EndTask();
+    ShowAgain(unreadable);
+}
+
+void LDbase::FinishRow()
+{
+    // Also after a date that was refused: the row is given up and the editor is back to normal.
+    EndTask();
+    EmptyNumberBoxes();
+    SortAndShow();
+}
+
+void LDbase::EndTask()
+{
+    Shared().editMode = EditMode::Normal;
+    Shared().SelectedRecord = 0;
+    m_ui->InNew->setText(u"New"_s);
+    MakVisible();
+}
+
+void LDbase::SortAndShow()
+{
+    Asking().SetBusyPointer(true);
+    ShowAgain(SortByDate(Shared().database, Shared().locale));
+}
+
+void LDbase::ShowAgain(int unreadable)
+{
+    Shared().ClickedRecord = 0; // the records may have moved
+    ClearAllCels();
+    FillRecordsGrid();
+    if (NumberTexts().join(QString()).isEmpty()) { // a draw that is half typed keeps its date
+        AdvanceDate();
+    }
+    ComputeNumberStats(Shared());
+    ShowStatistics();
+    DYourNumIn.front()->setFocus();
+    Asking().SetBusyPointer(false);
+    if (unreadable > 0) {
+        Show(Shared(), Asking(),
+             {.number = kCannotSort,
+              .reason = u"Records without a date that can be read: %1. They stand before all others."_s.arg(
+                  unreadable)});
     }
 }
 
@@ -471,8 +652,7 @@ void LDbase::ShowGraph()
 
 void LDbase::Exit()
 {
-    Shared().editMode = EditMode::Normal;
-    Shared().SelectedRecord = 0;
+    EndTask();
     Switcher().SetCaption(u" Quillaby Menu"_s);
     Switcher().ShowForm(FormName::LotoMenu);
 }

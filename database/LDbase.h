@@ -26,6 +26,10 @@ public:
 
     void Load() override;
 
+    /// Deletes SelectedRecord and shows the records again in the order of their dates.
+    void DeleteRec();
+    /// Checks the 'New' row and inserts it by its date, which must not be later than the last record's.
+    void InsertRec();
     /// Empties the cells of the records and the statistics; the records themselves stay.
     void ClearAllCels();
     /// Shows the buttons again that MakInvisible hid.
@@ -59,6 +63,16 @@ private:
     void SwitchCount();
     void ShowHelp(bool opens);
     void CorrectRecord();
+    void BeginCorrection();
+    void BeginInsertion();
+    void ApplyCorrection();
+    [[nodiscard]] bool RowIsRefused();
+    [[nodiscard]] bool DateIsRefused();
+    void FinishRow();
+    void EndTask();
+    void SortAndShow();
+    void ShowAgain(int unreadable);
+    void RebuildWhenFewRowsAreSpare();
     void ShowGraph();
     void Exit();
 

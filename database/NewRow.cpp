@@ -1,6 +1,9 @@
 #include "database/NewRow.h"
 
+#include "app/ShortDate.h"
 #include "app/TextPictures.h"
+
+#include <algorithm>
 
 bool RowIsEmpty(const QStringList& boxes)
 {
@@ -46,6 +49,25 @@ std::vector<int> NumbersIn(const QStringList& boxes)
         numbers.push_back(static_cast<int>(Val(box)));
     }
     return numbers;
+}
+
+std::optional<EntryFault> CheckNotAfterLastRecord(const DrawDatabase& database, QDate date,
+                                                  const QLocale& locale)
+{
+    constexpr int kLaterThanLastRecord = 39;
+    const std::optional<QDate> last = CellDate(
+        database.records.at(static_cast<std::size_t>(std::max<int>(database.count, 0))).date, locale);
+    if (!last || date <= *last) {
+        return std::nullopt;
+    }
+    return EntryFault{kLaterThanLastRecord, ShortDate(*last, locale)};
+}
+
+void OverwriteRecord(DrawDatabase& database, int record, QDate date, const std::vector<int>& numbers)
+{
+    DrawRecord& row = database.records.at(static_cast<std::size_t>(record));
+    row.date = date;
+    std::copy_n(numbers.begin(), std::min(numbers.size(), row.drawn.size()), row.drawn.begin());
 }
 
 bool IsFull(const DrawDatabase& database)

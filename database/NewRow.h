@@ -29,6 +29,14 @@ struct EntryFault {
 /// The values of boxes that CheckNumbers found nothing wrong with.
 [[nodiscard]] std::vector<int> NumbersIn(const QStringList& boxes);
 
+/// Message 39, quoting the last record's date, when @p date is later than that; empty when it is not, or when
+/// the last record's date cannot be read.
+[[nodiscard]] std::optional<EntryFault> CheckNotAfterLastRecord(const DrawDatabase& database, QDate date,
+                                                                const QLocale& locale);
+
+/// Writes date and numbers over a record, 1..count.
+void OverwriteRecord(DrawDatabase& database, int record, QDate date, const std::vector<int>& numbers);
+
 /// True when the database takes no further record. It takes the 2,001st: the test comes before adding, and
 /// users' full databases have that one record more than they are told.
 [[nodiscard]] bool IsFull(const DrawDatabase& database);

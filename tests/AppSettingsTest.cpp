@@ -267,3 +267,30 @@ TEST(PersonalSettings, AFileThatMayNotBeReadGivesTheDefaults)
 }
 
 #endif
+
+TEST(AppSettings, AreWrittenAsOneLineThatReadsBack)
+{
+    const AppSettings settings{.printerFont = 1,
+                               .defaultPicks = 10,
+                               .defaultHighest = 60,
+                               .entryForms = 3,
+                               .currencySymbol = u"\u00A3"_s,
+                               .userName = u"Zo\u00EB, of 6/49"_s};
+    QByteArray bytes;
+    ASSERT_TRUE(WriteSettings(settings, bytes).ok);
+    EXPECT_EQ(bytes, QByteArray("1,10,60,3,\"\xA3\",\"Zo\xEB, of 6/49\"\r\n"));
+    AppSettings read;
+    EXPECT_TRUE(ReadSettings(bytes, read));
+    EXPECT_EQ(read, settings);
+}
+
+TEST(AppSettings, ATextThatNoFileCanHoldIsNotWritten)
+{
+    AppSettings settings;
+    settings.userName = u"\u0141ukasz"_s;
+    QByteArray bytes("as it was");
+    const Outcome written = WriteSettings(settings, bytes);
+    EXPECT_FALSE(written.ok);
+    EXPECT_EQ(written.reason, u"A text has a character that the settings file cannot hold."_s);
+    EXPECT_EQ(bytes, QByteArray("as it was"));
+}

@@ -4,6 +4,7 @@
 #include "app/FileDir.h"
 #include "app/Prompts.h"
 #include "app/Twips.h"
+#include "tests/ModalWindows.h"
 #include "tests/QtPrinters.h"
 
 #include <QApplication>
@@ -19,7 +20,6 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -27,20 +27,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Runs @p act on the modal window that opens next.
-void WhenModalOpens(const std::function<void(QWidget*)>& act)
-{
-    auto* timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, act] {
-        if (QWidget* modal = QApplication::activeModalWidget()) {
-            timer->stop();
-            timer->deleteLater();
-            act(modal);
-        }
-    });
-    timer->start(5);
-}
 
 class Dialogs : public testing::Test
 {

@@ -9,6 +9,12 @@ FormBench::FormBench()
     m_window.AddForm(FormName::LDbase, [this](FormSwitcher& switcher, QWidget* parent) {
         return new LDbase(m_shared, m_prompts, switcher, parent);
     });
+    m_window.AddDialog(FormName::ChangeFnt, [this](FormSwitcher& switcher, QWidget* mainWindow) {
+        ChangeFnt(m_shared, m_prompts, switcher, mainWindow).exec();
+    });
+    m_window.AddDialog(FormName::Extract, [this](FormSwitcher& switcher, QWidget* mainWindow) {
+        Extract(m_shared, m_prompts, switcher, mainWindow).exec();
+    });
 }
 
 FormBench::~FormBench()
@@ -18,6 +24,7 @@ FormBench::~FormBench()
         << "a message did not come: " << m_prompts.expectedMessages.front();
     EXPECT_TRUE(m_prompts.answers.empty()) << "a question was not asked";
     EXPECT_TRUE(m_prompts.files.empty()) << "a file was not asked for";
+    EXPECT_EQ(m_dialogsToCome, 0) << "a dialog did not open";
     EXPECT_FALSE(m_prompts.busy) << "the busy pointer was left on";
     QDir::setCurrent(m_oldFolder);
 }
@@ -58,6 +65,22 @@ void FormBench::FillDatabase(int records)
         database.Append(date, numbers);
         date = date.addDays(date.dayOfWeek() == Qt::Saturday ? 4 : 3);
     }
+}
+
+void FormBench::OnDialog(const std::function<void(QWidget& dialog)>& act)
+{
+    ++m_dialogsToCome;
+    WhenModalOpens(
+        [this, act](QWidget* dialog) {
+            --m_dialogsToCome;
+            act(*dialog);
+        },
+        &m_dialogWatch);
+}
+
+QString FormBench::FocusName() const
+{
+    return m_window.focusWidget() == nullptr ? QString() : m_window.focusWidget()->objectName();
 }
 
 void FormBench::TypeInto(const QString& box, const QString& text)

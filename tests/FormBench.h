@@ -1,8 +1,11 @@
 #pragma once
 
+#include "app/ChangeFnt.h"
 #include "app/MDIContainer.h"
+#include "database/Extract.h"
 #include "database/LDbase.h"
 #include "tests/CannedPrompts.h"
+#include "tests/ModalWindows.h"
 #include "tests/QtPrinters.h"
 
 #include <QAbstractButton>
@@ -58,6 +61,32 @@ protected:
     QString TextOf(const QString& label) { return Find<QLabel>(label).text(); }
     /// The text of a cell as the grid shows it.
     QString Cell(const QString& grid, int row, int column);
+    /// Runs @p act on the dialog that opens next; it has to close it. A dialog that does not open fails the
+    /// test.
+    void OnDialog(const std::function<void(QWidget& dialog)>& act);
+    /// A widget of a dialog by its object name; a missing one ends the test.
+    template <typename Widget>
+    static Widget& In(const QWidget& dialog, const QString& name)
+    {
+        auto* widget = dialog.findChild<Widget*>(name);
+        if (widget == nullptr) {
+            throw std::runtime_error("no widget " + name.toStdString());
+        }
+        return *widget;
+    }
+    static void ClickIn(const QWidget& dialog, const QString& button)
+    {
+        QTest::mouseClick(&In<QAbstractButton>(dialog, button), Qt::LeftButton);
+    }
+    [[nodiscard]] QString FocusName() const;
+    [[nodiscard]] QString LastMessage() const
+    {
+        return m_prompts.shownTexts.value(m_prompts.shownTexts.size() - 1);
+    }
+    [[nodiscard]] QString LastReason() const
+    {
+        return m_prompts.shownReasons.value(m_prompts.shownReasons.size() - 1);
+    }
     /// Lets queued events run.
     static void Settle() { QCoreApplication::processEvents(); }
 
@@ -66,4 +95,6 @@ protected:
     LGLOBAL m_shared;
     CannedPrompts m_prompts{m_shared};
     MDIContainer m_window{m_shared, m_prompts, m_folder.path()};
+    int m_dialogsToCome = 0;
+    QObject m_dialogWatch; ///< owns what waits for a dialog
 };

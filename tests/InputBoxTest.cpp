@@ -191,6 +191,25 @@ TEST_F(InputBoxes, BothBoundsAreInRange)
     EXPECT_EQ(m_box.text(), u"10"_s);
 }
 
+TEST_F(InputBoxes, AWindowThatClosesOverABoxTakesItsMarkAlong)
+{
+    FollowOneToTen();
+    Enter();
+    Type(u"5"_s);
+    EXPECT_EQ(m_shared.entryEdited, 1);
+    m_window.close();
+    EXPECT_EQ(m_shared.entryEdited, 0);
+}
+
+TEST_F(InputBoxes, ABoxThatIsHiddenBesideTheOneBeingTypedInLeavesTheMark)
+{
+    FollowOneToTen();
+    Enter();
+    Type(u"5"_s);
+    m_other.hide();
+    EXPECT_EQ(m_shared.entryEdited, 1);
+}
+
 TEST_F(InputBoxes, TheClipboardIsEmptiedWhenABoxGetsAndLosesTheFocus)
 {
     FollowOneToTen();

@@ -149,3 +149,10 @@ TEST(KeyFilters, TheFileTextFilterPassesWhatISO8859Holds)
         EXPECT_EQ(FilterFileTextKey(key), 0) << "key " << key;
     }
 }
+
+TEST(KeyFilters, TheQuotedTextFilterPassesAllOfTheFileTextFilterButTheDoubleQuote)
+{
+    for (int key = 0; key <= 0x200; ++key) {
+        EXPECT_EQ(FilterQuotedTextKey(key), key == '"' ? 0 : FilterFileTextKey(key)) << key;
+    }
+}
