@@ -37,6 +37,16 @@ void DialogPrompts::AskQuestion()
     question.exec();
 }
 
+void DialogPrompts::AskToPrint(const std::function<PrintedDocument()>& /*pages*/)
+{
+    AskQuestion();
+}
+
+void DialogPrompts::PrintDocument(const PrintedDocument& /*document*/)
+{
+    Notice(QStringLiteral("Printing comes with a later version."));
+}
+
 void DialogPrompts::FileDirectory()
 {
     if (m_unattended) {

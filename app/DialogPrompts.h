@@ -19,6 +19,8 @@ public:
 
     void ShowMessage() override;
     void AskQuestion() override;
+    void AskToPrint(const std::function<PrintedDocument()>& pages) override;
+    void PrintDocument(const PrintedDocument& document) override;
     void FileDirectory() override;
     void Notice(const QString& text) override;
     void SetBusyPointer(bool busy) override;

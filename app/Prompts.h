@@ -1,8 +1,11 @@
 #pragma once
 
 #include "app/LGLOBAL.h"
+#include "app/Printout.h"
 
 #include <QString>
+
+#include <functional>
 
 /// The one door through which the program asks and tells the user. The program's own opens the dialogs; tests
 /// answer by themselves and check what was asked.
@@ -16,6 +19,14 @@ public:
 
     /// Asks the question questionNumber of the shared state; afterwards it holds kAnsweredYes, or 0.
     virtual void AskQuestion() = 0;
+
+    /// Asks the question questionNumber, which precedes a printout, as AskQuestion does, and lets the user
+    /// look at the pages before answering. @param pages  makes them when they are wanted
+    virtual void AskToPrint(const std::function<PrintedDocument()>& pages) = 0;
+
+    /// Prints on the default printer; where there is none, asks for a PDF file and prints to it. Tells the
+    /// user what went wrong.
+    virtual void PrintDocument(const PrintedDocument& document) = 0;
 
     /// Asks for a file under fileDialogMode: chosenPath is the answer; after a cancel fileDialogMode is
     /// kFileDialogCancelled and chosenPath what it was.

@@ -30,6 +30,18 @@ void CannedPrompts::AskQuestion()
     answers.pop_front();
 }
 
+void CannedPrompts::AskToPrint(const std::function<PrintedDocument()>& pages)
+{
+    offered.push_back(pages());
+    AskQuestion();
+}
+
+void CannedPrompts::PrintDocument(const PrintedDocument& document)
+{
+    EXPECT_FALSE(busy) << "printing under the busy pointer";
+    printed.push_back(document);
+}
+
 void CannedPrompts::FileDirectory()
 {
     fileDialogModes.push_back(m_shared.fileDialogMode);

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <deque>
+#include <vector>
 
 /// Prompts that answer from a list and keep what was asked. What was not expected fails the test.
 class CannedPrompts : public Prompts
@@ -15,6 +16,8 @@ public:
 
     void ShowMessage() override;
     void AskQuestion() override;
+    void AskToPrint(const std::function<PrintedDocument()>& pages) override;
+    void PrintDocument(const PrintedDocument& document) override;
     void FileDirectory() override;
     void Notice(const QString& text) override;
     void SetBusyPointer(bool busy) override;
@@ -30,6 +33,8 @@ public:
     QStringList shownReasons; ///< their reasons
     QStringList notices;
     QStringList askedTexts;
+    std::vector<PrintedDocument> offered; ///< what could be looked at before each answer to a print question
+    std::vector<PrintedDocument> printed;
     std::deque<qint16> fileDialogModes; ///< the modes the file dialog was opened under
     bool busy = false;
     std::deque<bool> busyChanges; ///< the busy pointer shown and taken away, in order

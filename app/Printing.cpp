@@ -1,0 +1,27 @@
+#include "app/Printing.h"
+
+namespace {
+
+constexpr qint16 kContinueWithPrintout = 1;
+
+} // namespace
+
+PrintedDocument MakeDocument(LGLOBAL& shared, const QString& name, const WriteReport& write)
+{
+    Printout printout(name, shared.settings.printerFont);
+    printout.PreparePrinter();
+    shared.linesPerPage = qint16(printout.LinesPerPage());
+    write(printout);
+    printout.FinishPrinting();
+    return printout.Document();
+}
+
+void PrintOnRequest(LGLOBAL& shared, Prompts& prompts, const QString& name, const WriteReport& write)
+{
+    const auto document = [&] { return MakeDocument(shared, name, write); };
+    shared.questionNumber = kContinueWithPrintout;
+    prompts.AskToPrint(document);
+    if (shared.questionNumber == kAnsweredYes) {
+        prompts.PrintDocument(document());
+    }
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "app/LGLOBAL.h"
+#include "app/Printout.h"
+#include "app/Prompts.h"
+
+#include <QString>
+
+#include <functional>
+
+/// Writes the lines of one report.
+using WriteReport = std::function<void(Printout&)>;
+
+/// A report in the printer font of the settings; linesPerPage is then that of the font. The report is written
+/// between PreparePrinter and FinishPrinting, so it only prints its lines.
+///
+/// @param name  what the print queue and the preview call it
+[[nodiscard]] PrintedDocument MakeDocument(LGLOBAL& shared, const QString& name, const WriteReport& write);
+
+/// Asks question 1, with a look at the pages offered beside its answers, and prints after Yes. What goes
+/// wrong is told to the user; nothing in memory is changed by it.
+void PrintOnRequest(LGLOBAL& shared, Prompts& prompts, const QString& name, const WriteReport& write);

@@ -1,0 +1,133 @@
+#include "app/Printout.h"
+
+#include "app/TextPictures.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kStandardLinesPerPage = 53;
+constexpr int kCourierNewLinesPerPage = 56;
+constexpr int kPageNumberColumn = 40;
+
+/// How many characters of @p text go into a line of @p width; the rest goes on in the next. Words and numbers
+/// stay whole where a blank allows it.
+qsizetype LengthOfFirstLine(const QString& text, qsizetype width)
+{
+    if (text.size() <= width) {
+        return text.size();
+    }
+    const qsizetype blank = text.lastIndexOf(u' ', width);
+    return blank > 0 ? std::min(blank + 1, width) : width;
+}
+
+/// A control character would print as nothing or as a box.
+QString Printable(QString text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; }, u' ');
+    return text;
+}
+
+} // namespace
+
+Printout::Printout(QString name, qint16 printerFont) : m_linesPerPage(kStandardLinesPerPage)
+{
+    m_document.name = std::move(name);
+    m_document.printerFont = printerFont == kCourierNewFont ? kCourierNewFont : kStandardFont;
+}
+
+void Printout::PreparePrinter()
+{
+    PrintEmptyLines();
+    m_linesPerPage =
+        m_document.printerFont == kCourierNewFont ? kCourierNewLinesPerPage : kStandardLinesPerPage;
+}
+
+void Printout::FinishPrinting()
+{
+    EndPage();
+}
+
+int Printout::LinesOnPage() const
+{
+    const qsizetype ended = m_pageOpen ? qsizetype(m_document.pages.back().size()) : 0;
+    return int(ended) + (m_line.empty() ? 0 : 1);
+}
+
+int Printout::PageNumber() const
+{
+    return int(m_document.pages.size()) + (m_pageOpen ? 0 : 1);
+}
+
+PrintedPage& Printout::OpenPage()
+{
+    if (m_pageOpen && m_document.pages.back().size() >= kSheetLines) {
+        m_pageOpen = false;
+    }
+    if (!m_pageOpen) {
+        m_document.pages.emplace_back();
+        m_pageOpen = true;
+    }
+    return m_document.pages.back();
+}
+
+int Printout::NextColumn() const
+{
+    return m_line.empty() ? 1 : m_line.back().column + int(m_line.back().text.size());
+}
+
+void Printout::PrintAt(int column, const QString& text)
+{
+    column = std::clamp(column, 1, kPrintColumns);
+    if (column < NextColumn()) {
+        EndLine();
+    }
+    const qsizetype width = kPrintColumns - column + 1;
+    QString rest = Printable(text);
+    qsizetype length = LengthOfFirstLine(rest, width);
+    while (length < rest.size()) {
+        m_line.push_back({column, rest.first(length)});
+        EndLine();
+        rest = rest.sliced(length);
+        length = LengthOfFirstLine(rest, width);
+    }
+    m_line.push_back({column, rest});
+}
+
+void Printout::EndLine()
+{
+    OpenPage().push_back(std::exchange(m_line, {}));
+}
+
+void Printout::PrintLine(const QString& text, int column)
+{
+    PrintAt(column, text);
+    EndLine();
+}
+
+void Printout::PrintEmptyLines(int count)
+{
+    for (int i = 0; i < count; ++i) {
+        EndLine();
+    }
+}
+
+void Printout::EndNumberedPage()
+{
+    PrintEmptyLines(2);
+    PrintLine(u"Page"_s + Str(PageNumber()), kPageNumberColumn);
+    EndPage();
+    PreparePrinter();
+}
+
+void Printout::EndPage()
+{
+    if (!m_line.empty()) {
+        EndLine();
+    }
+    m_pageOpen = false;
+}
