@@ -38,15 +38,7 @@ public:
         return m_complete ? Outcome{} : Outcome::Failure(m_library.errorString());
     }
 
-    /// Why the last function failed.
-    [[nodiscard]] QString Reason() const
-    {
-        QString reason = QString::fromUtf8(lastErrorString());
-        if (lastError() == IPP_STATUS_ERROR_REQUEST_ENTITY) { // how a full disk is reported
-            return u"The disk of the print service has no room for the pages. (%1)"_s.arg(reason);
-        }
-        return reason;
-    }
+    [[nodiscard]] QString Reason() const { return QString::fromUtf8(lastErrorString()); }
 
     decltype(&::cupsGetNamedDest) getNamedDest = nullptr;
     decltype(&::cupsFreeDests) freeDests = nullptr;
@@ -236,11 +228,12 @@ public:
         constexpr qsizetype kPiece = 64 * 1024;
         for (qsizetype sent = 0; sent < pdf.size(); sent += kPiece) {
             const QByteArray piece = pdf.sliced(sent, std::min(kPiece, pdf.size() - sent));
-            if (m_cups.writeRequestData(CUPS_HTTP_DEFAULT, piece.constData(), size_t(piece.size())) !=
-                HTTP_STATUS_CONTINUE) {
-                const QString reason = m_cups.Reason();
+            const http_status_t status =
+                m_cups.writeRequestData(CUPS_HTTP_DEFAULT, piece.constData(), size_t(piece.size()));
+            if (status != HTTP_STATUS_CONTINUE) {
+                const Outcome refused = Refused(status);
                 m_cups.finishDocument(CUPS_HTTP_DEFAULT, m_queue.name);
-                return Outcome::Failure(reason);
+                return refused;
             }
         }
         m_finished = m_cups.finishDocument(CUPS_HTTP_DEFAULT, m_queue.name) <= IPP_STATUS_OK_EVENTS_COMPLETE;
@@ -248,6 +241,16 @@ public:
     }
 
 private:
+    /// Why the service did not take a piece of the pages.
+    [[nodiscard]] Outcome Refused(http_status_t status) const
+    {
+        const QString reason = m_cups.Reason();
+        if (status == HTTP_STATUS_REQUEST_TOO_LARGE) { // how it says that its disk is full
+            return Outcome::Failure(u"The print service has no room for the pages. (%1)"_s.arg(reason));
+        }
+        return Outcome::Failure(reason);
+    }
+
     const Cups& m_cups;
     const cups_dest_t& m_queue;
     QByteArray m_title;
