@@ -226,26 +226,24 @@ public:
             return Outcome::Failure(m_cups.Reason());
         }
         constexpr qsizetype kPiece = 64 * 1024;
-        for (qsizetype sent = 0; sent < pdf.size(); sent += kPiece) {
+        bool whole = true;
+        for (qsizetype sent = 0; whole && sent < pdf.size(); sent += kPiece) {
             const QByteArray piece = pdf.sliced(sent, std::min(kPiece, pdf.size() - sent));
-            const http_status_t status =
-                m_cups.writeRequestData(CUPS_HTTP_DEFAULT, piece.constData(), size_t(piece.size()));
-            if (status != HTTP_STATUS_CONTINUE) {
-                const Outcome refused = Refused(status);
-                m_cups.finishDocument(CUPS_HTTP_DEFAULT, m_queue.name);
-                return refused;
-            }
+            whole = m_cups.writeRequestData(CUPS_HTTP_DEFAULT, piece.constData(), size_t(piece.size())) ==
+                    HTTP_STATUS_CONTINUE;
         }
-        m_finished = m_cups.finishDocument(CUPS_HTTP_DEFAULT, m_queue.name) <= IPP_STATUS_OK_EVENTS_COMPLETE;
-        return m_finished ? Outcome{} : Outcome::Failure(m_cups.Reason());
+        // Also after a piece that was not taken: this is where the service says why.
+        m_finished =
+            m_cups.finishDocument(CUPS_HTTP_DEFAULT, m_queue.name) <= IPP_STATUS_OK_EVENTS_COMPLETE && whole;
+        return m_finished ? Outcome{} : Refused();
     }
 
 private:
-    /// Why the service did not take a piece of the pages.
-    [[nodiscard]] Outcome Refused(http_status_t status) const
+    /// Why the service did not take the pages.
+    [[nodiscard]] Outcome Refused() const
     {
         const QString reason = m_cups.Reason();
-        if (status == HTTP_STATUS_REQUEST_TOO_LARGE) { // how it says that its disk is full
+        if (m_cups.lastError() == IPP_STATUS_ERROR_REQUEST_VALUE) { // how it says that its disk is full
             return Outcome::Failure(u"The print service has no room for the pages. (%1)"_s.arg(reason));
         }
         return Outcome::Failure(reason);
