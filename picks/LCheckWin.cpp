@@ -29,6 +29,7 @@ LCheckWin::LCheckWin(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, 
     m_ui->setupUi(this);
     m_ui->CTextBox->setPlainText(WinnersHelpText());
     SetUpGrid();
+    SetUpTitle();
     SetUpBoxes();
     ConnectCommands();
     Events().WatchInputBoxes();
@@ -42,6 +43,12 @@ void LCheckWin::SetUpGrid()
     m_ui->CGrid->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_ui->CGrid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_ui->CGrid->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
+}
+
+void LCheckWin::SetUpTitle()
+{
+    constexpr int kMostLines = 4; // a longer title would take the room from the grid
+    m_ui->TitleCheck->setMaximumHeight(kMostLines * (fontMetrics().lineSpacing() + 1));
 }
 
 void LCheckWin::SetUpBoxes()

@@ -33,6 +33,7 @@ protected:
 
 private:
     void SetUpGrid();
+    void SetUpTitle();
     void SizeColumns();
     void SetUpBoxes();
     void ConnectCommands();

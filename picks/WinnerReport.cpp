@@ -26,7 +26,10 @@ QString InPlace(const Cell& number)
 
 void PrintTitle(Printout& printout, const WinnerSearch& search)
 {
-    printout.PrintLine(u"Matching Numbers in "_s + search.title + u" Draw"_s);
+    constexpr int kLongestTitle = 600; // a damaged file may hold a title of any length; this is nine lines
+    const QString title =
+        search.title.size() > kLongestTitle ? search.title.first(kLongestTitle) + u"..."_s : search.title;
+    printout.PrintLine(u"Matching Numbers in "_s + title + u" Draw"_s);
     printout.PrintLine(Rule());
 }
 
@@ -60,6 +63,15 @@ void PrintColumnHeading(Printout& printout, int picks)
     printout.PrintLine(Rule());
 }
 
+/// The date with the blanks behind it; a text that is no date as far as the numbers leave room.
+QString PrintedDate(const Cell& date, const QLocale& locale)
+{
+    const QString blanks(4, u' ');
+    const QString text = DrawDateText(date, locale);
+    const qsizetype room = kNumbersColumn - kDateColumn - blanks.size();
+    return (CellDate(date, locale) ? text : text.left(room)) + blanks;
+}
+
 void PrintResult(Printout& printout, const DrawRecord& result, int picks, const QLocale& locale)
 {
     QString numbers;
@@ -67,7 +79,7 @@ void PrintResult(Printout& printout, const DrawRecord& result, int picks, const 
         numbers += InPlace(result.drawn.at(pick));
     }
     printout.PrintAt(1, InPlace(result.number));
-    printout.PrintAt(kDateColumn, DrawDateText(result.date, locale) + u"    "_s);
+    printout.PrintAt(kDateColumn, PrintedDate(result.date, locale));
     printout.PrintAt(kNumbersColumn, numbers);
     printout.EndLine();
 }

@@ -188,15 +188,20 @@ TEST_F(WinnerCheck, TheColumnsGrowWithTheWindowAndStayInSight)
     EXPECT_EQ(grid.columnWidth(2), before);
 }
 
-TEST_F(WinnerCheck, ALongTitleNeedsNoWiderWindow)
+TEST_F(WinnerCheck, ALongTitleNeedsNoLargerWindowAndLeavesTheGridItsRoom)
 {
     Start();
-    FillDatabase(1);
-    m_shared.database.title = QString(300, u'W') + u"<b>&a"_s;
-    OpenForm();
-    EXPECT_EQ(m_window.size(), QSize(641, 458));
-    EXPECT_EQ(TextOf(u"TitleCheck"_s), m_shared.database.title);
-    EXPECT_EQ(Find<QLabel>(u"TitleCheck"_s).textFormat(), Qt::PlainText);
+    for (const QString& title :
+         {u"Lotto"_s, QString(300, u'W') + u"<b>&a"_s, u"many words "_s.repeated(300)}) {
+        FillDatabase(1);
+        m_shared.database.title = title;
+        m_window.ShowForm(FormName::LCheckWin);
+        Settle();
+        EXPECT_EQ(m_window.size(), QSize(641, 458));
+        EXPECT_EQ(Find<QTableView>(u"CGrid"_s).height(), 303);
+        EXPECT_EQ(TextOf(u"TitleCheck"_s), title);
+        EXPECT_EQ(Find<QLabel>(u"TitleCheck"_s).textFormat(), Qt::PlainText);
+    }
 }
 
 TEST_F(WinnerCheck, FitsTheOpeningWindowWithTenBoxesAndTheHelpOpen)

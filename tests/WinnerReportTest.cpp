@@ -126,15 +126,32 @@ TEST(WinnerReport, APageThatIsJustFullIsNotFollowedByAnEmptyOne)
     EXPECT_EQ(ManyWinners(kResultsOnFirstPage + 1).Printed().pages.size(), 2U);
 }
 
-TEST(WinnerReport, ADateThatIsNoDatePrintsItsTextAndALongOneLeavesTheNumbersInPlace)
+TEST(WinnerReport, ADateThatIsNoDatePrintsItsTextAsFarAsTheNumbersLeaveRoom)
 {
     Report report = ManyWinners(2);
     report.results.at(2).date = u"some day"_s;
     report.results.at(1).date = u"the first Saturday of the year"_s;
     const QStringList lines = PageLines(report.Printed(), 1);
     EXPECT_EQ(lines.at(kLinesAboveResults), u"    2  some day"_s.leftJustified(33) + u'6');
-    EXPECT_EQ(lines.at(kLinesAboveResults + 1), u"    1  the first Saturday of the year"_s);
-    EXPECT_EQ(lines.at(kLinesAboveResults + 2), QString(28, u' ') + u'6');
+    EXPECT_EQ(lines.at(kLinesAboveResults + 1), u"    1  the first Sat"_s.leftJustified(28) + u'6');
+}
+
+TEST(WinnerReport, ALongDateOfTheLocaleLeavesTheNumbersInPlace)
+{
+    Report report = ManyWinners(2);
+    report.locale = QLocale(QLocale::Hungarian, QLocale::Hungary);
+    report.results.at(2).date = QDate(1995, 12, 28);
+    const QStringList lines = PageLines(report.Printed(), 1);
+    EXPECT_EQ(lines.at(kLinesAboveResults), u"    2  1995. 12. 28."_s.leftJustified(33) + u'6');
+}
+
+TEST(WinnerReport, ATitleOfAnyLengthLeavesRoomForTheResults)
+{
+    Report report = ManyWinners(130);
+    report.search.title = QString(100'000, u'x');
+    const PrintedDocument document = report.Printed();
+    EXPECT_EQ(document.pages.size(), 4U);
+    EXPECT_EQ(PageLines(document, 1).join(QString()).count(u'x'), 600);
 }
 
 TEST(WinnerReport, PrintsTheDatesOfTheLocale)
