@@ -1,4 +1,4 @@
-#include "app/PrinterDoor.h"
+#include "app/CupsPrinters.h"
 
 #include <QLibrary>
 #include <QLocale>
@@ -225,7 +225,7 @@ public:
                                               CUPS_FORMAT_PDF, 1) != HTTP_STATUS_CONTINUE) {
             return Outcome::Failure(m_cups.Reason());
         }
-        constexpr qsizetype kPiece = 64 * 1024;
+        constexpr qsizetype kPiece = 65536;
         bool whole = true;
         for (qsizetype sent = 0; whole && sent < pdf.size(); sent += kPiece) {
             const QByteArray piece = pdf.sliced(sent, std::min(kPiece, pdf.size() - sent));
@@ -256,48 +256,39 @@ private:
     bool m_finished = false;
 };
 
-class CupsPrinters : public PrinterDoor
-{
-public:
-    [[nodiscard]] DefaultPrinter Default() override
-    {
-        const Cups cups;
-        if (const Outcome loaded = cups.Loaded(); !loaded.ok) {
-            return {.name = {}, .paper = UsualPaper(QLocale()), .reason = loaded.reason};
-        }
-        const Destination queue(cups, nullptr);
-        if (queue.Queue() == nullptr) {
-            return {.name = {}, .paper = UsualPaper(QLocale()), .reason = cups.Reason()};
-        }
-        return {.name = QString::fromUtf8(queue.Queue()->name), .paper = PaperOf(cups, queue), .reason = {}};
-    }
-
-    [[nodiscard]] Outcome Print(const PrintedDocument& document, const DefaultPrinter& printer,
-                                const PagesDone& pagesDone) override
-    {
-        const Cups cups;
-        if (const Outcome loaded = cups.Loaded(); !loaded.ok) {
-            return loaded;
-        }
-        const Destination queue(cups, printer.name.toUtf8().constData());
-        if (queue.Queue() == nullptr) {
-            return Outcome::Failure(cups.Reason());
-        }
-        // A stopped queue takes jobs and keeps them: who tries again would get every try when it runs again.
-        if (const QueueState state(cups, queue); state.IsStopped()) {
-            return Outcome::Failure(u"The printer is stopped. %1"_s.arg(state.Reasons()).trimmed());
-        }
-        QByteArray pdf;
-        if (const Outcome painted = MakePdf(document, printer.paper, pdf, pagesDone); !painted.ok) {
-            return painted;
-        }
-        return Job(cups, *queue.Queue(), document.name.toUtf8()).Send(pdf);
-    }
-};
-
 } // namespace
 
-std::unique_ptr<PrinterDoor> SystemPrinters()
+DefaultPrinter CupsPrinters::Default()
 {
-    return std::make_unique<CupsPrinters>();
+    const Cups cups;
+    if (const Outcome loaded = cups.Loaded(); !loaded.ok) {
+        return {.name = {}, .paper = UsualPaper(QLocale()), .reason = loaded.reason};
+    }
+    const Destination queue(cups, nullptr);
+    if (queue.Queue() == nullptr) {
+        return {.name = {}, .paper = UsualPaper(QLocale()), .reason = cups.Reason()};
+    }
+    return {.name = QString::fromUtf8(queue.Queue()->name), .paper = PaperOf(cups, queue), .reason = {}};
+}
+
+Outcome CupsPrinters::Print(const PrintedDocument& document, const DefaultPrinter& printer,
+                            const PagesDone& pagesDone)
+{
+    const Cups cups;
+    if (Outcome loaded = cups.Loaded(); !loaded.ok) {
+        return loaded;
+    }
+    const Destination queue(cups, printer.name.toUtf8().constData());
+    if (queue.Queue() == nullptr) {
+        return Outcome::Failure(cups.Reason());
+    }
+    // A stopped queue takes jobs and keeps them: who tries again would get every try when it runs again.
+    if (const QueueState state(cups, queue); state.IsStopped()) {
+        return Outcome::Failure(u"The printer is stopped. %1"_s.arg(state.Reasons()).trimmed());
+    }
+    QByteArray pdf;
+    if (Outcome painted = MakePdf(document, printer.paper, pdf, pagesDone); !painted.ok) {
+        return painted;
+    }
+    return Job(cups, *queue.Queue(), document.name.toUtf8()).Send(pdf);
 }

@@ -23,7 +23,6 @@ void SetUp(QProgressDialog& progress)
     progress.setWindowModality(Qt::WindowModal);
     progress.setAutoClose(false);
     progress.setAutoReset(false);
-    progress.setMinimumDuration(24 * 60 * 60 * 1000); // it is shown below, not by the dialog's own guess
 }
 
 } // namespace
@@ -43,6 +42,7 @@ Outcome RunLongWork(QWidget* window, const QString& text, int steps,
     QTimer::singleShot(kSilence, &waiting, [&] {
         progress = std::make_unique<QProgressDialog>(text, QString(), 0, steps, window);
         SetUp(*progress);
+        progress->setMinimumDuration(24 * 60 * 60 * 1000); // it is shown here, not by its own guess
         progress->setValue(done);
         progress->show();
         QObject::connect(&refresh, &QTimer::timeout, progress.get(), [&] { progress->setValue(done); });
@@ -52,4 +52,13 @@ Outcome RunLongWork(QWidget* window, const QString& text, int steps,
     waiting.exec(QEventLoop::ExcludeUserInputEvents);
     thread->wait(); // the loop also ends when the program is told to
     return outcome;
+}
+
+Outcome RunWorkHere(QWidget* window, const QString& text, int steps,
+                    const std::function<Outcome(const StepsDone&)>& work)
+{
+    QProgressDialog progress(text, QString(), 0, steps, window);
+    SetUp(progress);
+    progress.setMinimumDuration(kSilence);
+    return work([&progress](int done) { progress.setValue(done); });
 }

@@ -20,3 +20,7 @@ using StepsDone = std::function<void(int steps)>;
 /// @param work    touches nothing that this thread uses
 Outcome RunLongWork(QWidget* window, const QString& text, int steps,
                     const std::function<Outcome(const StepsDone&)>& work);
+
+/// The same for work that has to be done on the thread of the windows; they are painted at each step.
+Outcome RunWorkHere(QWidget* window, const QString& text, int steps,
+                    const std::function<Outcome(const StepsDone&)>& work);

@@ -32,10 +32,17 @@ Outcome WritePdf(const PrintedDocument& document, const QPageSize& paper, const 
 
 } // namespace
 
+Outcome PaperPrinting::Run(const QString& text, int steps,
+                           const std::function<Outcome(const PagesDone&)>& work)
+{
+    return m_printers.WorksOnAnyThread() ? RunLongWork(m_mainWindow, text, steps, work)
+                                         : RunWorkHere(m_mainWindow, text, steps, work);
+}
+
 DefaultPrinter PaperPrinting::FindPrinter()
 {
     DefaultPrinter printer;
-    RunLongWork(m_mainWindow, u"Asking for the default printer..."_s, 0, [&](const StepsDone&) {
+    Run(u"Asking for the default printer..."_s, 0, [&](const StepsDone&) {
         printer = m_printers.Default();
         return Outcome{};
     });
@@ -57,8 +64,8 @@ void PaperPrinting::Print(const PrintedDocument& document)
         return;
     }
     const Outcome printed =
-        RunLongWork(m_mainWindow, u"Printing on %1..."_s.arg(printer.name), int(document.pages.size()),
-                    [&](const StepsDone& done) { return m_printers.Print(document, printer, done); });
+        Run(u"Printing on %1..."_s.arg(printer.name), int(document.pages.size()),
+            [&](const PagesDone& done) { return m_printers.Print(document, printer, done); });
     if (!printed.ok) {
         m_prompts.Notice(u"Nothing was printed on %1.\n\n%2"_s.arg(printer.name, printed.reason));
     }

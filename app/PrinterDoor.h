@@ -25,6 +25,9 @@ class PrinterDoor
 public:
     virtual ~PrinterDoor() = default;
 
+    /// Whether the functions below may be called on any thread, or only on that of the windows.
+    [[nodiscard]] virtual bool WorksOnAnyThread() const = 0;
+
     /// The default printer as it is at this moment.
     [[nodiscard]] virtual DefaultPrinter Default() = 0;
 

@@ -17,6 +17,8 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTemporaryDir>
+#include <QThread>
+#include <QTimer>
 
 #include <semaphore>
 
@@ -31,13 +33,17 @@ public:
     DefaultPrinter printer{.name = u"Laser"_s, .paper = QPageSize(QPageSize::Letter), .reason = {}};
     Outcome outcome;
     std::vector<PrintedDocument> printed;
+    bool anyThread = true;
+    QThread* thread = nullptr; ///< the one it printed on
 
+    [[nodiscard]] bool WorksOnAnyThread() const override { return anyThread; }
     [[nodiscard]] DefaultPrinter Default() override { return printer; }
     [[nodiscard]] Outcome Print(const PrintedDocument& document, const DefaultPrinter& on,
                                 const PagesDone& pagesDone) override
     {
         EXPECT_EQ(on.name, printer.name);
         printed.push_back(document);
+        thread = QThread::currentThread();
         pagesDone(1);
         return outcome;
     }
@@ -72,6 +78,16 @@ TEST_F(PaperPrintingTest, PrintsOnTheDefaultPrinterAndSaysNothing)
     ASSERT_EQ(m_printers.printed.size(), 1U);
     EXPECT_TRUE(m_printers.printed[0] == Pages(2));
     EXPECT_TRUE(m_prompts.notices.isEmpty());
+}
+
+TEST_F(PaperPrintingTest, ADoorThatNeedsTheThreadOfTheWindowsGetsIt)
+{
+    m_printing.Print(Pages(2));
+    EXPECT_NE(m_printers.thread, QThread::currentThread());
+    m_printers.anyThread = false;
+    m_printing.Print(Pages(2));
+    EXPECT_EQ(m_printers.thread, QThread::currentThread());
+    EXPECT_EQ(m_printers.printed.size(), 2U);
 }
 
 TEST_F(PaperPrintingTest, AFailureIsToldWithThePrinterAndTheSystemsReason)

@@ -4,6 +4,7 @@
 #include "app/MDIContainer.h"
 #include "app/PrinterDoor.h"
 #include "app/Printing.h"
+#include "app/QtPrinters.h"
 #include "tests/ModalWindows.h"
 #include "tests/PrintScheduler.h"
 #include "tests/PrintedPages.h"
@@ -311,6 +312,24 @@ TEST_F(PrintOnPaper, TheMenusButtonPrintsTheDatabaseOnTheDefaultPrinter)
     });
     ExpectOnPaper(expected, m_scheduler.PrintedPages(u"q"_s), kA4.size);
     EXPECT_EQ(shared.database.records, before.records);
+}
+
+TEST_F(PrintOnPaper, TheToolkitsWayPutsTheSameWordsOnPaper)
+{
+    m_scheduler.AddQueue(u"q"_s, u"Letter"_s);
+    m_scheduler.MakeDefault(u"q"_s);
+    QtPrinters door;
+    const DefaultPrinter printer = door.Default();
+    if (!printer.Exists()) {
+        GTEST_SKIP() << "the toolkit has no way to CUPS on this machine: " << printer.reason.toStdString();
+    }
+    EXPECT_EQ(printer.name, u"q"_s);
+    const PrintedDocument document = DatabasePrintout(kCourierNewFont, 80);
+    int pages = 0;
+    const Outcome printed = door.Print(document, printer, [&](int done) { pages = done; });
+    EXPECT_TRUE(printed.ok) << printed.reason.toStdString();
+    EXPECT_EQ(pages, 2);
+    ExpectOnPaper(document, m_scheduler.PrintedPages(u"q"_s), kLetter.size);
 }
 
 TEST(PrintOnAFullDisk, TheReasonIsToldAndNoJobIsLeft)
