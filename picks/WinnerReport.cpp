@@ -16,7 +16,7 @@ constexpr int kPlaceWidth = 5;
 QString Rule()
 {
     constexpr int kRuleWidth = 70;
-    return QString(kRuleWidth, u'_');
+    return {kRuleWidth, u'_'};
 }
 
 QString InPlace(const Cell& number)
