@@ -10,6 +10,7 @@
 
 #include <array>
 #include <functional>
+#include <vector>
 
 /// What the file dialog is asked for, and what it answers when the user cancels.
 enum FileDialogMode : qint16 {
@@ -63,6 +64,10 @@ struct LGLOBAL {
     std::array<QString, 4>
         topNumbersText;                 ///< line 1 the heading of the top numbers, line 2 the numbers alone
     std::array<QString, 4> scratchText; ///< four more lines, free for any form
+
+    /// The scratch copy of the records: as many rows as a form gave it, row 0 not used. The winner check
+    /// keeps what it found here until its next search.
+    std::vector<DrawRecord> scratchRecords;
 
     // The editor and its record dialog
     EditMode editMode = EditMode::Normal;

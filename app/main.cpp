@@ -12,6 +12,7 @@
 #include "database/Extract.h"
 #include "database/InRecNum.h"
 #include "database/LDbase.h"
+#include "picks/LCheckWin.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -119,7 +120,9 @@ int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const Comm
     const Tour tour{
         .stops = {{FormName::LotoMenu, u"LotoMenu"_s, {}},
                   {FormName::LDbase, u"LDbase"_s, {}},
-                  {FormName::LDbase, u"LDbase-help"_s, u"DHelp"_s}},
+                  {FormName::LDbase, u"LDbase-help"_s, u"DHelp"_s},
+                  {FormName::LCheckWin, u"LCheckWin"_s, {}},
+                  {FormName::LCheckWin, u"LCheckWin-help"_s, u"CHelp"_s}},
         .dialogs = TourDialogs(shared, prompts, window),
     };
     const Outcome taken = TakePictures(window, tour, line.tourFolder);
@@ -158,6 +161,9 @@ int main(int argc, char* argv[])
     }
     window.AddForm(FormName::LDbase, [&](FormSwitcher& switcher, QWidget* parent) {
         return new LDbase(shared, prompts, switcher, parent);
+    });
+    window.AddForm(FormName::LCheckWin, [&](FormSwitcher& switcher, QWidget* parent) {
+        return new LCheckWin(shared, prompts, switcher, parent);
     });
     window.AddDialog(FormName::ChangeFnt, [&](FormSwitcher& switcher, QWidget* mainWindow) {
         ChangeFnt(shared, prompts, switcher, mainWindow).exec();
