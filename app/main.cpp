@@ -9,6 +9,8 @@
 #include "database/Extract.h"
 #include "database/InRecNum.h"
 #include "database/LDbase.h"
+#include "invest/InInvNum.h"
+#include "invest/LInvTrack.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -23,6 +25,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kSample = u":/samples/Sample.Lto"_s;
+const QString kSampleStatement = u":/samples/Sample.inv"_s;
 
 struct CommandLine {
     QString file;       ///< opened at start, absolute; "" for none
@@ -89,6 +92,10 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
     const auto records = [&] { return std::make_unique<InRecNum>(shared, &window); };
     const auto settings = [&] { return std::make_unique<ChangeFnt>(shared, prompts, window, &window); };
     const auto extract = [&] { return std::make_unique<Extract>(shared, prompts, window, &window); };
+    const auto insertedLine = [&] {
+        constexpr int kAnyRow = 7;
+        return std::make_unique<InInvNum>(shared, kAnyRow, &window);
+    };
     return {
         {u"AMsgbox"_s, message, {}},
         {u"AllYesNo"_s, question, {}},
@@ -99,6 +106,7 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
         {u"ChangeFnt"_s, settings, {}, true},
         {u"Extract"_s, extract, {}},
         {u"Extract-help"_s, extract, u"EHelp"_s},
+        {u"InInvNum"_s, insertedLine, {}},
     };
 }
 
@@ -106,10 +114,15 @@ int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const Comm
 {
     window.Menu().OpenNamedFile(line.file.isEmpty() ? kSample : line.file);
     window.ShowForm(FormName::LotoMenu);
+    const auto openStatement = [](WorkingForm& form) {
+        dynamic_cast<LInvTrack&>(form).OpenNamedFile(kSampleStatement);
+    };
     const Tour tour{
         .stops = {{FormName::LotoMenu, u"LotoMenu"_s, {}},
                   {FormName::LDbase, u"LDbase"_s, {}},
-                  {FormName::LDbase, u"LDbase-help"_s, u"DHelp"_s}},
+                  {FormName::LDbase, u"LDbase-help"_s, u"DHelp"_s},
+                  {FormName::LInvTrack, u"LInvTrack"_s, {}, openStatement},
+                  {FormName::LInvTrack, u"LInvTrack-help"_s, u"IHelp"_s, openStatement}},
         .dialogs = TourDialogs(shared, prompts, window),
     };
     const Outcome taken = TakePictures(window, tour, line.tourFolder);
@@ -138,7 +151,7 @@ int main(int argc, char* argv[])
         ChooseProgramFolder({.executableFolder = QCoreApplication::applicationDirPath(),
                              .dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
                              .asked = line.folder},
-                            kSample);
+                            {kSample, kSampleStatement});
     LGLOBAL shared;
     DialogPrompts prompts(shared);
     MDIContainer window(shared, prompts, programFolder);
@@ -148,6 +161,9 @@ int main(int argc, char* argv[])
     }
     window.AddForm(FormName::LDbase, [&](FormSwitcher& switcher, QWidget* parent) {
         return new LDbase(shared, prompts, switcher, parent);
+    });
+    window.AddForm(FormName::LInvTrack, [&](FormSwitcher& switcher, QWidget* parent) {
+        return new LInvTrack(shared, prompts, switcher, parent);
     });
     window.AddDialog(FormName::ChangeFnt, [&](FormSwitcher& switcher, QWidget* mainWindow) {
         ChangeFnt(shared, prompts, switcher, mainWindow).exec();
