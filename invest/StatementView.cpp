@@ -10,7 +10,8 @@
 
 namespace {
 
-/// Draws the dotted line around the current cell.
+/// Shows the current cell as the place that takes input: green as the input boxes are, with black text, and
+/// with a dotted line around it.
 class CurrentCellDelegate : public QStyledItemDelegate
 {
 public:
@@ -23,7 +24,7 @@ public:
             return;
         }
         painter->save();
-        painter->setPen(QPen(option.palette.color(QPalette::Text), 1, Qt::DotLine));
+        painter->setPen(QPen(Qt::black, 1, Qt::DotLine));
         painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
         painter->restore();
     }
@@ -32,8 +33,10 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
-        option->state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
+        option->state &= ~QStyle::State_HasFocus;
         if (index == m_view->currentIndex()) {
+            option->backgroundBrush = QColor(0x80, 0xFF, 0x80);
+            option->palette.setColor(QPalette::Text, Qt::black);
             option->textElideMode = Qt::ElideLeft; // the end is where the user types
         }
     }
@@ -54,8 +57,8 @@ StatementView::StatementView(QWidget* parent) : QTableView(parent)
 {
     setItemDelegate(new CurrentCellDelegate(this));
     setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setSelectionMode(QAbstractItemView::SingleSelection);
-    setTabKeyNavigation(false); // Tab leads on to the buttons
+    setSelectionMode(QAbstractItemView::NoSelection); // the current cell is all there is
+    setTabKeyNavigation(false);                       // Tab leads on to the buttons
 }
 
 void StatementView::Refuse()
