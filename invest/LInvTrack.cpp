@@ -46,7 +46,7 @@ void LInvTrack::SetUpGrid()
     m_ui->IGrid->setModel(&m_model);
     QHeaderView* rows = m_ui->IGrid->verticalHeader();
     rows->setSectionResizeMode(QHeaderView::Fixed);
-    rows->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    rows->setDefaultAlignment(Qt::AlignCenter);
     rows->setDefaultSectionSize(fontMetrics().height() + kRoomAboveAndBelow);
     QHeaderView* columns = m_ui->IGrid->horizontalHeader();
     columns->setSectionsClickable(false);
