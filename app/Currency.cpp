@@ -94,7 +94,7 @@ std::optional<Currency> Currency::FromText(QStringView text)
 QString Currency::Plain() const
 {
     const bool negative = m_tenThousandths < 0;
-    const quint64 count = static_cast<quint64>(m_tenThousandths);
+    const auto count = static_cast<quint64>(m_tenThousandths);
     QString text = QString::number(negative ? 0 - count : count).rightJustified(kDecimals + 1, u'0');
     text.insert(text.size() - kDecimals, u'.');
     while (text.endsWith(u'0')) {

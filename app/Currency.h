@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include <compare>
 #include <optional>
 
 /// An amount of money with four decimals, exact: a whole number of ten-thousandths, never a binary fraction.
@@ -30,7 +29,11 @@ public:
     /// locale, no digit more than it takes.
     [[nodiscard]] QString Plain() const;
 
-    constexpr auto operator<=>(const Currency&) const = default;
+    constexpr bool operator==(const Currency&) const = default;
+    constexpr bool operator<(const Currency& other) const
+    {
+        return m_tenThousandths < other.m_tenThousandths;
+    }
 
 private:
     qint64 m_tenThousandths = 0;
