@@ -2,6 +2,7 @@
 
 #include "app/AppSettings.h"
 #include "app/DrawDatabase.h"
+#include "app/InvestmentStatement.h"
 #include "database/NumberStatistics.h"
 
 #include <QDate>
@@ -73,6 +74,12 @@ struct LGLOBAL {
     EditMode editMode = EditMode::Normal;
     qint16 SelectedRecord = 0; ///< record chosen in the record dialog, 0 = none
     qint16 ClickedRecord = 0;  ///< record of the grid row last clicked, 0 = none
+
+    // The investment statement
+    InvestmentTable InvestmentRows; ///< as typed so far; empty while the statement is not open
+    float InvestmentRowCount = 0;   ///< rows in use after the last calculation or load
+    Currency InvestmentTotal;       ///< of the last calculation or load
+    QString insertRowText;          ///< the row number typed into InInvNum; "" after a cancel
 
     // What the world outside says
     QLocale locale;                                     ///< of dates on screen and paper
