@@ -133,6 +133,23 @@ TEST_F(MainWindow, AButtonWhoseFormComesLaterSaysSoAndTheMenuStays)
     EXPECT_EQ(m_shared.graphCaller, 1);
 }
 
+TEST_F(MainWindow, ALongTitleLeavesTheWindowAsLargeAsItWas)
+{
+    Start();
+    const QSize before = m_window.size();
+    for (const QString& title : {QString(300, u'W'), u"Wide words "_s.repeated(60)}) {
+        FillDatabase(1);
+        m_shared.database.title = title;
+        Click(u"DBaseForm"_s);
+        Click(u"DExit"_s);
+        Settle();
+        EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
+        EXPECT_EQ(m_window.size(), before);
+        EXPECT_LE(m_window.minimumSizeHint().width(), before.width());
+        EXPECT_EQ(Find<QLabel>(u"InfoLabel"_s).toolTip(), title);
+    }
+}
+
 TEST_F(MainWindow, TheDatabaseIsPrintedAfterYes)
 {
     Start();
