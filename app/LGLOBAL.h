@@ -2,6 +2,8 @@
 
 #include "app/AppSettings.h"
 #include "app/DrawDatabase.h"
+#include "app/RandomSource.h"
+#include "app/SetTable.h"
 #include "database/NumberStatistics.h"
 
 #include <QDate>
@@ -10,6 +12,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 
 /// What the file dialog is asked for, and what it answers when the user cancels.
 enum FileDialogMode : qint16 {
@@ -61,6 +64,12 @@ struct LGLOBAL {
     std::array<QString, 4>
         topNumbersText;                 ///< line 1 the heading of the top numbers, line 2 the numbers alone
     std::array<QString, 4> scratchText; ///< four more lines, free for any form
+
+    // Generated sets
+    SetTable PickTable{};
+    CandidateList CandidateNumbers;
+    /// One for the whole run; tests put in their own. Never empty.
+    std::shared_ptr<RandomSource> random = std::make_shared<RandomGenerator>();
 
     // The editor and its record dialog
     EditMode editMode = EditMode::Normal;

@@ -9,10 +9,12 @@
 #include "database/Extract.h"
 #include "database/InRecNum.h"
 #include "database/LDbase.h"
+#include "picks/Lottery.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QProxyStyle>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -102,14 +104,30 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
     };
 }
 
+/// Nothing moves in a picture.
+class StillStyle : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* answer) const override
+    {
+        return hint == SH_Widget_Animation_Duration ? 0
+                                                    : QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+};
+
 int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const CommandLine& line)
 {
+    QApplication::setStyle(new StillStyle); // the application's from now on
     window.Menu().OpenNamedFile(line.file.isEmpty() ? kSample : line.file);
     window.ShowForm(FormName::LotoMenu);
     const Tour tour{
         .stops = {{FormName::LotoMenu, u"LotoMenu"_s, {}},
                   {FormName::LDbase, u"LDbase"_s, {}},
-                  {FormName::LDbase, u"LDbase-help"_s, u"DHelp"_s}},
+                  {FormName::LDbase, u"LDbase-help"_s, u"DHelp"_s},
+                  {FormName::Lottery, u"Lottery"_s, {}},
+                  {FormName::Lottery, u"Lottery-sets"_s, u"CalcAllNum"_s},
+                  {FormName::Lottery, u"Lottery-help"_s, u"PHelp"_s}},
         .dialogs = TourDialogs(shared, prompts, window),
     };
     const Outcome taken = TakePictures(window, tour, line.tourFolder);
@@ -148,6 +166,9 @@ int main(int argc, char* argv[])
     }
     window.AddForm(FormName::LDbase, [&](FormSwitcher& switcher, QWidget* parent) {
         return new LDbase(shared, prompts, switcher, parent);
+    });
+    window.AddForm(FormName::Lottery, [&](FormSwitcher& switcher, QWidget* parent) {
+        return new Lottery(shared, prompts, switcher, parent);
     });
     window.AddDialog(FormName::ChangeFnt, [&](FormSwitcher& switcher, QWidget* mainWindow) {
         ChangeFnt(shared, prompts, switcher, mainWindow).exec();
