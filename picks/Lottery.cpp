@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -125,6 +126,7 @@ void Lottery::SetUpLabels()
     for (QLabel* label : {m_ui->Label5, m_ui->Label6, m_ui->Label7, m_ui->InfoLabel1}) {
         label->setMinimumHeight(2 * line);
     }
+    m_ui->InfoLabel1->setMaximumHeight(3 * line); // a longer title is read in the tool tip
     m_ui->Picture7->setMinimumHeight(line);
 
     constexpr int kLeft = 855;
@@ -132,7 +134,8 @@ void Lottery::SetUpLabels()
     constexpr int kLines = 3;
     const int width = TwipsToPixels(kWidth, logicalDpiX());
     m_ui->FromNums->setMinimumSize(width, kLines * line);
-    m_ui->FromNumsIndent->changeSize(TwipsToPixels(kLeft, logicalDpiX()), 0, QSizePolicy::Fixed);
+    const int indent = TwipsToPixels(kLeft, logicalDpiX()) - m_ui->from->contentsMargins().left();
+    m_ui->FromNumsIndent->changeSize(indent, 0, QSizePolicy::Fixed);
 }
 
 void Lottery::SetUpInputs()
@@ -302,6 +305,7 @@ void Lottery::ShowDatabase()
     m_ui->PWhichCnt->setVisible(hasRecords);
     if (hasRecords) {
         m_ui->InfoLabel1->setText(u" File in Memory \r\n  "_s + database.title + u"  "_s);
+        m_ui->InfoLabel1->setToolTip(database.title.toHtmlEscaped());
     } else { // an empty database has the shape of the personal settings
         database.highest = settings.defaultHighest;
         database.columns = qint16(settings.defaultPicks + 2);
@@ -527,8 +531,10 @@ void Lottery::BallsDisplay()
 
 bool Lottery::eventFilter(QObject* watched, QEvent* event)
 {
+    // Both the window's own object, which gets a click before it moves the focus, and the widgets, which get
+    // their access keys without it. Other windows, a question for one, take input.
     const auto* widget = qobject_cast<QWidget*>(watched);
-    if (widget == nullptr || widget->window() != window()) {
+    if (watched != window()->windowHandle() && (widget == nullptr || widget->window() != window())) {
         return WorkingForm::eventFilter(watched, event);
     }
     if (event->type() == QEvent::Close) {
