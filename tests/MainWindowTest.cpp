@@ -1,5 +1,6 @@
 #include "tests/FormBench.h"
 #include "tests/PrintedPages.h"
+#include "tests/ToolTipText.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -146,7 +147,7 @@ TEST_F(MainWindow, ALongTitleLeavesTheWindowAsLargeAsItWas)
         EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
         EXPECT_EQ(m_window.size(), before);
         EXPECT_LE(m_window.minimumSizeHint().width(), before.width());
-        EXPECT_EQ(Find<QLabel>(u"InfoLabel"_s).toolTip(), title);
+        EXPECT_EQ(TextOfToolTip(Find<QLabel>(u"InfoLabel"_s).toolTip()), title);
     }
 }
 
@@ -240,6 +241,16 @@ TEST_F(MainWindow, ATitleWithMarkupIsShownAsItStands)
     Click(u"DExit"_s);
     EXPECT_EQ(TextOf(u"InfoLabel"_s), u" File in Memory \r\n  <b>6</b>&49  "_s);
     EXPECT_EQ(Find<QLabel>(u"InfoLabel"_s).textFormat(), Qt::PlainText);
+    for (const QString& title : {u"a &amp; b"_s, u"6 > 5"_s, u"<b>6</b>"_s, u"Lotto & 49"_s, u"a  b"_s}) {
+        m_shared.database.title = title;
+        m_window.Menu().ShowFileInMemory();
+        const QLabel& label = Find<QLabel>(u"InfoLabel"_s);
+        EXPECT_EQ(TextOfToolTip(label.toolTip()), title);
+        EXPECT_EQ(label.accessibleDescription(), title);
+        Click(u"PickForm"_s);
+        EXPECT_EQ(TextOfToolTip(Find<QLabel>(u"InfoLabel1"_s).toolTip()), title);
+        Click(u"PExit"_s);
+    }
 }
 
 TEST_F(MainWindow, ACancelledDialogShowsTheEditorOnTheDatabaseInMemory)
