@@ -107,9 +107,10 @@ void LotoMenu::ShowFileInMemory()
 
 void LotoMenu::OpenNamedFile(const QString& path)
 {
-    Shared().dialogFolder = QFileInfo(path).absolutePath(); // where the user will look for it when saving
     Switcher().HideForm();
-    OpenLotteryFile(Shared(), Asking(), path);
+    if (OpenLotteryFile(Shared(), Asking(), path)) {
+        Shared().dialogFolder = QFileInfo(path).absolutePath(); // where the user will look for it when saving
+    }
     Switcher().ShowForm(FormName::LDbase);
 }
 

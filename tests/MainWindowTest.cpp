@@ -313,10 +313,45 @@ TEST_F(MainWindow, AFileNamedAtTheStartOpensWithoutADialog)
 {
     WriteFile(u"Named.Lto"_s, kTwoDraws);
     Start();
-    m_window.Menu().OpenNamedFile(m_folder.filePath(u"Named.Lto"_s));
+    m_window.OpenNamedFile(m_folder.filePath(u"Named.Lto"_s));
     EXPECT_EQ(FrontForm(), u"LDbase"_s);
     EXPECT_EQ(m_shared.database.fileName, u"Named.Lto"_s);
     EXPECT_EQ(m_shared.dialogFolder, m_folder.path());
+}
+
+TEST_F(MainWindow, AStatementNamedAtTheStartOpensInTheTracker)
+{
+    for (const QString& name : {u"Named.inv"_s, u"NAMED.INV"_s}) {
+        WriteFile(name, "1\r\n\"Tickets\",-12\r\n");
+        Start();
+        m_window.OpenNamedFile(m_folder.filePath(name));
+        EXPECT_EQ(FrontForm(), u"LInvTrack"_s);
+        EXPECT_EQ(m_window.windowTitle(), u" Investment Tracker"_s);
+        EXPECT_EQ(Cell(u"IGrid"_s, 0, 0), u"Tickets"_s);
+        EXPECT_EQ(m_shared.investmentFileName, name);
+        EXPECT_EQ(m_shared.dialogFolder, m_folder.path());
+        EXPECT_EQ(FocusName(), u"IGrid"_s);
+        Click(u"IExit"_s);
+    }
+}
+
+TEST_F(MainWindow, AStatementNamedAtTheStartThatIsNotThereGivesItsMessageInTheTracker)
+{
+    Start();
+    m_prompts.expectedMessages = {25};
+    m_window.OpenNamedFile(m_folder.filePath(u"elsewhere/None.inv"_s));
+    EXPECT_EQ(FrontForm(), u"LInvTrack"_s);
+    EXPECT_EQ(m_shared.investmentFileName, QString());
+    EXPECT_EQ(m_shared.dialogFolder, QString());
+}
+
+TEST_F(MainWindow, AFileNamedAtTheStartThatIsNotThereLeavesTheFolderOfTheFileDialog)
+{
+    Start();
+    m_prompts.expectedMessages = {13};
+    m_window.OpenNamedFile(m_folder.filePath(u"elsewhere/None.Lto"_s));
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+    EXPECT_EQ(m_shared.dialogFolder, QString());
 }
 
 TEST_F(MainWindow, TheUsersNameStandsInTheMenuWhenThereIsOne)
