@@ -390,6 +390,9 @@ private:
             Slanted(plot.right(), plot.bottom());
             m_painter.drawLine(wall.topLeft(), wall.bottomLeft());
         }
+        for (const QRectF& value : m_layout.values) { // no line through a number
+            m_painter.fillRect(value.adjusted(0, -m_line, 0, m_line), m_look.ground);
+        }
         Vertical(plot.left(), plot.top(), plot.bottom(), m_look.text);
     }
 
@@ -526,7 +529,6 @@ private:
 
     void WriteValue(const QRectF& box, const QString& value)
     {
-        m_painter.fillRect(box.adjusted(0, -m_line, 0, m_line), m_look.ground); // no line through a number
         if (m_layout.valuePlace == ChartLayout::ValuePlace::Above) {
             Write(box, value, m_layout.valueFont, Qt::AlignHCenter);
         } else {

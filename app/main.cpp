@@ -100,9 +100,8 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
     const auto graphPreview = [&] {
         const LotteryShape shape = shared.database.Shape();
         const NumberTable counts = CountNumbers(shared.database, CountMode::TimesDrawn);
-        const BarChart chart =
-            StatisticsChart(counts, shape.highest,
-                            {.records = shared.database.count, .title = shared.database.title});
+        const BarChart chart = StatisticsChart(
+            counts, shape.highest, {.records = shared.database.count, .title = shared.database.title});
         return std::make_unique<PrintPreview>(ChartDocument(chart), UsualPaper(shared.locale), &window);
     };
     const auto records = [&] { return std::make_unique<InRecNum>(shared, &window); };
