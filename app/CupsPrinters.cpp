@@ -225,7 +225,7 @@ public:
                                               CUPS_FORMAT_PDF, 1) != HTTP_STATUS_CONTINUE) {
             return Outcome::Failure(m_cups.Reason());
         }
-        constexpr qsizetype kPiece = 64 * 1024;
+        constexpr qsizetype kPiece = 65536;
         bool whole = true;
         for (qsizetype sent = 0; whole && sent < pdf.size(); sent += kPiece) {
             const QByteArray piece = pdf.sliced(sent, std::min(kPiece, pdf.size() - sent));
@@ -275,7 +275,7 @@ Outcome CupsPrinters::Print(const PrintedDocument& document, const DefaultPrinte
                             const PagesDone& pagesDone)
 {
     const Cups cups;
-    if (const Outcome loaded = cups.Loaded(); !loaded.ok) {
+    if (Outcome loaded = cups.Loaded(); !loaded.ok) {
         return loaded;
     }
     const Destination queue(cups, printer.name.toUtf8().constData());
@@ -287,8 +287,9 @@ Outcome CupsPrinters::Print(const PrintedDocument& document, const DefaultPrinte
         return Outcome::Failure(u"The printer is stopped. %1"_s.arg(state.Reasons()).trimmed());
     }
     QByteArray pdf;
-    if (const Outcome painted = MakePdf(document, printer.paper, pdf, pagesDone); !painted.ok) {
+    if (Outcome painted = MakePdf(document, printer.paper, pdf, pagesDone); !painted.ok) {
         return painted;
     }
-    return Job(cups, *queue.Queue(), document.name.toUtf8()).Send(pdf);
+    constexpr qsizetype kLongestName = 80; // a name of a job has 255 bytes, and a title any length
+    return Job(cups, *queue.Queue(), document.name.left(kLongestName).toUtf8()).Send(pdf);
 }

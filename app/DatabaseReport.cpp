@@ -38,7 +38,7 @@ PageHead HeadOf(const DrawDatabase& database)
     if (title.size() > kLongestTitle) {
         title = title.first(kLongestTitle) + u"..."_s;
     }
-    const int columns = database.Shape().picks + 2;
+    const qsizetype columns = database.Shape().picks + 2;
     return {.heading = u"Winning numbers in "_s + title + u" Draw"_s,
             .underline = QString(kColumnWidth * (columns + 1), u'_')};
 }
@@ -73,7 +73,7 @@ std::array<QString, 1 + 2 * kBlocks> BlockLines(const NumberTable& counts, int h
 {
     std::array<QString, 1 + 2 * kBlocks> lines;
     for (int number = 1; number <= highest; ++number) {
-        const size_t block = size_t((number - 1) / kNumbersInBlock);
+        const auto block = size_t((number - 1) / kNumbersInBlock);
         lines.at(2 * block + 1) += RightJustify(Format(number, u"###"), kNumberWidth);
         lines.at(2 * block + 2) +=
             RightJustify(Format(counts.at(size_t(number)).value, u"###"), kNumberWidth);

@@ -42,7 +42,7 @@ PrintPreview::~PrintPreview() = default;
 /// Shortcuts, so that they work wherever the focus is.
 void PrintPreview::SetUpKeys()
 {
-    const std::pair<QKeySequence, QPushButton*> keys[] = {
+    const QList<std::pair<QKeySequence, QPushButton*>> keys{
         {Qt::Key_Home, m_ui->FirstPage},    {Qt::Key_PageUp, m_ui->PreviousPage},
         {Qt::Key_PageDown, m_ui->NextPage}, {Qt::Key_End, m_ui->LastPage},
         {Qt::Key_Plus, m_ui->ZoomIn},       {Qt::Key_Minus, m_ui->ZoomOut},

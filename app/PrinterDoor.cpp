@@ -10,8 +10,8 @@
 
 QPageSize UsualPaper(const QLocale& locale)
 {
-    return QPageSize(locale.measurementSystem() == QLocale::ImperialUSSystem ? QPageSize::Letter
-                                                                             : QPageSize::A4);
+    const bool usesLetter = locale.measurementSystem() == QLocale::ImperialUSSystem;
+    return {usesLetter ? QPageSize::Letter : QPageSize::A4};
 }
 
 std::unique_ptr<PrinterDoor> SystemPrinters()

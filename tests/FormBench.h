@@ -5,6 +5,8 @@
 #include "database/Extract.h"
 #include "database/LDbase.h"
 #include "database/LGraph.h"
+#include "invest/LInvTrack.h"
+#include "picks/LCheckWin.h"
 #include "tests/CannedPrompts.h"
 #include "tests/ModalWindows.h"
 #include "tests/QtPrinters.h"
