@@ -3,6 +3,8 @@
 #include "app/AppSettings.h"
 #include "app/DrawDatabase.h"
 #include "app/InvestmentStatement.h"
+#include "app/RandomSource.h"
+#include "app/SetTable.h"
 #include "database/NumberStatistics.h"
 
 #include <QDate>
@@ -11,6 +13,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <vector>
 
 /// What the file dialog is asked for, and what it answers when the user cancels.
@@ -69,6 +72,12 @@ struct LGLOBAL {
     /// The scratch copy of the records: as many rows as a form gave it, row 0 not used. The winner check
     /// keeps what it found here until its next search.
     std::vector<DrawRecord> scratchRecords;
+
+    // Generated sets
+    SetTable PickTable{};
+    CandidateList CandidateNumbers;
+    /// One for the whole run; tests put in their own. Never empty.
+    std::shared_ptr<RandomSource> random = std::make_shared<RandomGenerator>();
 
     // The editor and its record dialog
     EditMode editMode = EditMode::Normal;

@@ -17,10 +17,12 @@
 #include "invest/InInvNum.h"
 #include "invest/LInvTrack.h"
 #include "picks/LCheckWin.h"
+#include "picks/Lottery.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QProxyStyle>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -131,8 +133,21 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
     };
 }
 
+/// Nothing moves in a picture.
+class StillStyle : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* answer) const override
+    {
+        return hint == SH_Widget_Animation_Duration ? 0
+                                                    : QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+};
+
 int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const CommandLine& line)
 {
+    QApplication::setStyle(new StillStyle); // the application's from now on
     window.Menu().OpenNamedFile(line.file.isEmpty() ? kSample : line.file);
     window.ShowForm(FormName::LotoMenu);
     const auto openStatement = [](WorkingForm& form) {
@@ -146,6 +161,9 @@ int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const Comm
                   {FormName::LGraph, u"LGraph-sorted"_s, u"ChngView"_s},
                   {FormName::LGraph, u"LGraph-since"_s, u"GWhichCnt"_s},
                   {FormName::LGraph, u"LGraph-3d"_s, u"TwoDBut"_s},
+                  {FormName::Lottery, u"Lottery"_s, {}},
+                  {FormName::Lottery, u"Lottery-sets"_s, u"CalcAllNum"_s},
+                  {FormName::Lottery, u"Lottery-help"_s, u"PHelp"_s},
                   {FormName::LCheckWin, u"LCheckWin"_s, {}},
                   {FormName::LCheckWin, u"LCheckWin-help"_s, u"CHelp"_s},
                   {FormName::LInvTrack, u"LInvTrack"_s, {}, openStatement},
@@ -197,6 +215,9 @@ int main(int argc, char* argv[])
     });
     window.AddForm(FormName::LInvTrack, [&](FormSwitcher& switcher, QWidget* parent) {
         return new LInvTrack(shared, prompts, switcher, parent);
+    });
+    window.AddForm(FormName::Lottery, [&](FormSwitcher& switcher, QWidget* parent) {
+        return new Lottery(shared, prompts, switcher, parent);
     });
     window.AddDialog(FormName::ChangeFnt, [&](FormSwitcher& switcher, QWidget* mainWindow) {
         ChangeFnt(shared, prompts, switcher, mainWindow).exec();

@@ -18,6 +18,9 @@ FormBench::FormBench()
     m_window.AddForm(FormName::LInvTrack, [this](FormSwitcher& switcher, QWidget* parent) {
         return new LInvTrack(m_shared, m_prompts, switcher, parent);
     });
+    m_window.AddForm(FormName::Lottery, [this](FormSwitcher& switcher, QWidget* parent) {
+        return new Lottery(m_shared, m_prompts, switcher, parent);
+    });
     m_window.AddDialog(FormName::ChangeFnt, [this](FormSwitcher& switcher, QWidget* mainWindow) {
         ChangeFnt(m_shared, m_prompts, switcher, mainWindow).exec();
     });

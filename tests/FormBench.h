@@ -7,6 +7,7 @@
 #include "database/LGraph.h"
 #include "invest/LInvTrack.h"
 #include "picks/LCheckWin.h"
+#include "picks/Lottery.h"
 #include "tests/CannedPrompts.h"
 #include "tests/ModalWindows.h"
 #include "tests/QtPrinters.h"

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "picks/Ball.h"
+#include "picks/BallSteps.h"
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include <array>
+
+/// The row of six balls, Balls0 .. Balls5, whose colours roll to the right while a calculation is shown.
+///
+/// The run is driven by a timer: the window stays painted, and between its steps the processor has nothing to
+/// do. How far it has come is read from the clock, so it takes as long as it should on a slow machine too.
+class RollingBalls : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit RollingBalls(QWidget* parent = nullptr);
+
+    /// Shows the balls in their resting colours.
+    void StartColor();
+
+    /// Begins a run; one that is under way goes on. Where the desktop is set to show no animations, or a step
+    /// has no length, it is finished at once.
+    void Run();
+
+    /// Ends a run at once, as if its time were over.
+    void Finish();
+
+    [[nodiscard]] bool IsRunning() const { return m_running; }
+
+    /// How long a step of the run takes, in milliseconds; a tenth of a second if not set. Tests take less.
+    void SetStepLength(int milliseconds) { m_stepLength = milliseconds; }
+
+Q_SIGNALS:
+    /// The word to show beside the balls has changed.
+    void WordChanged(const QString& word);
+    /// The run is over and the balls are at rest.
+    void Finished();
+
+private:
+    [[nodiscard]] bool AnimationsAreWanted() const;
+    void ShowMoment();
+    void ShowColors(const BallColors& before, const BallColors& now, double faded);
+
+    std::array<Ball*, kBalls> m_balls{};
+    QTimer m_timer;
+    QElapsedTimer m_clock;
+    QString m_word;
+    int m_stepLength;
+    bool m_running = false;
+};
