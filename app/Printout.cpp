@@ -67,14 +67,25 @@ QString Printable(const QString& text)
     return printable;
 }
 
-/// A name that every queue and window takes.
+} // namespace
+
 QString DocumentName(const QString& name)
 {
     constexpr qsizetype kLongest = 100;
     return name.left(kLongest).simplified();
 }
 
-} // namespace
+int PageCount(const PrintedDocument& document)
+{
+    return int(document.pages.size() + document.charts.size());
+}
+
+const BarChart* ChartOnPage(const PrintedDocument& document, int page)
+{
+    const qsizetype chart = page - qsizetype(document.pages.size());
+    return chart >= 0 && chart < qsizetype(document.charts.size()) ? &document.charts[size_t(chart)]
+                                                                   : nullptr;
+}
 
 Printout::Printout(const QString& name, qint16 printerFont) : m_linesPerPage(kStandardLinesPerPage)
 {

@@ -12,6 +12,8 @@
 #include "database/Extract.h"
 #include "database/InRecNum.h"
 #include "database/LDbase.h"
+#include "database/LGraph.h"
+#include "database/StatisticsChart.h"
 #include "invest/InInvNum.h"
 #include "invest/LInvTrack.h"
 #include "picks/LCheckWin.h"
@@ -101,6 +103,13 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
         });
         return std::make_unique<PrintPreview>(pages, UsualPaper(shared.locale), &window);
     };
+    const auto graphPreview = [&] {
+        const LotteryShape shape = shared.database.Shape();
+        const NumberTable counts = CountNumbers(shared.database, CountMode::TimesDrawn);
+        const BarChart chart = StatisticsChart(
+            counts, shape.highest, {.records = shared.database.count, .title = shared.database.title});
+        return std::make_unique<PrintPreview>(ChartDocument(chart), UsualPaper(shared.locale), &window);
+    };
     const auto records = [&] { return std::make_unique<InRecNum>(shared, &window); };
     const auto settings = [&] { return std::make_unique<ChangeFnt>(shared, prompts, window, &window); };
     const auto extract = [&] { return std::make_unique<Extract>(shared, prompts, window, &window); };
@@ -112,6 +121,7 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
         {u"AMsgbox"_s, message, {}},
         {u"AllYesNo"_s, question, {}},
         {u"PrintPreview"_s, preview, {}},
+        {u"PrintPreview-graph"_s, graphPreview, {}},
         {u"InRecNum"_s, records, {}},
         {u"InRecNum-insert"_s, records, u"CorInsDel1"_s},
         {u"InRecNum-delete"_s, records, u"CorInsDel2"_s},
@@ -153,6 +163,10 @@ int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const Comm
         .stops = {{FormName::LotoMenu, u"LotoMenu"_s, {}},
                   {FormName::LDbase, u"LDbase"_s, {}},
                   {FormName::LDbase, u"LDbase-help"_s, u"DHelp"_s},
+                  {FormName::LGraph, u"LGraph"_s, {}},
+                  {FormName::LGraph, u"LGraph-sorted"_s, u"ChngView"_s},
+                  {FormName::LGraph, u"LGraph-since"_s, u"GWhichCnt"_s},
+                  {FormName::LGraph, u"LGraph-3d"_s, u"TwoDBut"_s},
                   {FormName::Lottery, u"Lottery"_s, {}},
                   {FormName::Lottery, u"Lottery-sets"_s, u"CalcAllNum"_s},
                   {FormName::Lottery, u"Lottery-help"_s, u"PHelp"_s},
@@ -199,6 +213,9 @@ int main(int argc, char* argv[])
     }
     window.AddForm(FormName::LDbase, [&](FormSwitcher& switcher, QWidget* parent) {
         return new LDbase(shared, prompts, switcher, parent);
+    });
+    window.AddForm(FormName::LGraph, [&](FormSwitcher& switcher, QWidget* parent) {
+        return new LGraph(shared, prompts, switcher, parent);
     });
     window.AddForm(FormName::LCheckWin, [&](FormSwitcher& switcher, QWidget* parent) {
         return new LCheckWin(shared, prompts, switcher, parent);
