@@ -49,8 +49,9 @@ struct LGLOBAL {
     qint16 fileDialogMode = kFileDialogIdle;
     QString chosenPath;    ///< full path picked in the file dialog; "" when idle
     QString programFolder; ///< of "Personal.Lot", "Sample.Lto", "Sample.inv", "Extract.lto"
-    QString dialogFolder;  ///< folder the next file dialog opens in: that of the file last opened, or chosen
-                           ///< to save to; "" for the current folder
+    QString dialogFolder;  ///< folder the next file dialog opens in: that of the database or statement last
+                           ///< opened, or chosen to save to; "" for the current folder
+    QString pdfFolder;     ///< folder a PDF file was last saved in; "" for the current folder
     QString pdfFileName;   ///< name that is proposed for a PDF file
     QString investmentFileName; ///< of the statement last opened or saved; "" once the tracker is left
 

@@ -35,8 +35,11 @@ Outcome WritePdf(const PrintedDocument& document, const QPageSize& paper, const 
 Outcome PaperPrinting::Run(const QString& text, int steps,
                            const std::function<Outcome(const PagesDone&)>& work)
 {
-    return m_printers.WorksOnAnyThread() ? RunLongWork(m_mainWindow, text, steps, work)
-                                         : RunWorkHere(m_mainWindow, text, steps, work);
+    m_prompts.SetBusyPointer(true);
+    Outcome outcome = m_printers.WorksOnAnyThread() ? RunLongWork(m_mainWindow, text, steps, work)
+                                                    : RunWorkHere(m_mainWindow, text, steps, work);
+    m_prompts.SetBusyPointer(false); // before anything is told
+    return outcome;
 }
 
 DefaultPrinter PaperPrinting::FindPrinter()
@@ -58,13 +61,13 @@ void PaperPrinting::Print(const PrintedDocument& document)
 {
     const DefaultPrinter printer = FindPrinter();
     if (!printer.Exists()) {
-        m_prompts.Notice(
-            u"There is no default printer. You can print to a PDF file instead.\n\n%1"_s.arg(printer.reason));
+        m_prompts.Notice(u"There is no printer to print on. You can print to a PDF file instead.\n\n%1"_s.arg(
+            printer.reason));
         SaveAsPdf(document, printer.paper);
         return;
     }
     const Outcome printed =
-        Run(u"Printing on %1..."_s.arg(printer.name), int(document.pages.size()),
+        Run(u"Printing on %1..."_s.arg(printer.name), PageCount(document),
             [&](const PagesDone& done) { return m_printers.Print(document, printer, done); });
     if (!printed.ok) {
         m_prompts.Notice(u"Nothing was printed on %1.\n\n%2"_s.arg(printer.name, printed.reason));
@@ -83,11 +86,15 @@ void PaperPrinting::SaveAsPdf(const PrintedDocument& document, const QPageSize& 
     if (!chosen) {
         return;
     }
+    m_prompts.SetBusyPointer(true);
     const Outcome saved =
-        RunLongWork(m_mainWindow, u"Printing to a PDF file..."_s, int(document.pages.size()),
+        RunLongWork(m_mainWindow, u"Printing to a PDF file..."_s, PageCount(document),
                     [&](const StepsDone& done) { return WritePdf(document, paper, path, done); });
-    if (!saved.ok) {
-        m_prompts.Notice(
-            u"The PDF file was not written.\n%1\n\n%2"_s.arg(QDir::toNativeSeparators(path), saved.reason));
+    m_prompts.SetBusyPointer(false);
+    const QString shownPath = QDir::toNativeSeparators(path);
+    if (saved.ok) {
+        m_prompts.Notice(u"The pages are in this file now:\n%1"_s.arg(shownPath));
+    } else {
+        m_prompts.Notice(u"The PDF file was not written.\n%1\n\n%2"_s.arg(shownPath, saved.reason));
     }
 }

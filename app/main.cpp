@@ -13,6 +13,8 @@
 #include "database/Extract.h"
 #include "database/InRecNum.h"
 #include "database/LDbase.h"
+#include "database/LGraph.h"
+#include "database/StatisticsChart.h"
 #include "invest/InInvNum.h"
 #include "invest/LInvTrack.h"
 #include "picks/LCheckWin.h"
@@ -103,6 +105,13 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
         });
         return std::make_unique<PrintPreview>(pages, UsualPaper(shared.locale), &window);
     };
+    const auto graphPreview = [&] {
+        const LotteryShape shape = shared.database.Shape();
+        const NumberTable counts = CountNumbers(shared.database, CountMode::TimesDrawn);
+        const BarChart chart = StatisticsChart(
+            counts, shape.highest, {.records = shared.database.count, .title = shared.database.title});
+        return std::make_unique<PrintPreview>(ChartDocument(chart), UsualPaper(shared.locale), &window);
+    };
     const auto records = [&] { return std::make_unique<InRecNum>(shared, &window); };
     const auto settings = [&] { return std::make_unique<ChangeFnt>(shared, prompts, window, &window); };
     const auto extract = [&] { return std::make_unique<Extract>(shared, prompts, window, &window); };
@@ -114,6 +123,7 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
         {u"AMsgbox"_s, message, {}},
         {u"AllYesNo"_s, question, {}},
         {u"PrintPreview"_s, preview, {}},
+        {u"PrintPreview-graph"_s, graphPreview, {}},
         {u"InRecNum"_s, records, {}},
         {u"InRecNum-insert"_s, records, u"CorInsDel1"_s},
         {u"InRecNum-delete"_s, records, u"CorInsDel2"_s},
@@ -146,14 +156,25 @@ int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const Comm
     const auto openStatement = [statement = isStatement ? line.file : kSampleStatement](WorkingForm& form) {
         form.OpenNamedFile(statement);
     };
+    const auto typeNumbers = [](WorkingForm& form) {
+        int box = 0;
+        for (const int number : {8, 3, 1, 32, 19, 4}) { // drawn in the sample's third record
+            form.findChild<InputBox*>(u"CInYourNum%1"_s.arg(box++))->setText(QString::number(number));
+        }
+    };
     const Tour tour{
         .stops = {{FormName::LotoMenu, u"LotoMenu"_s, {}},
                   {FormName::LDbase, u"LDbase"_s, {}},
                   {FormName::LDbase, u"LDbase-help"_s, u"DHelp"_s},
+                  {FormName::LGraph, u"LGraph"_s, {}},
+                  {FormName::LGraph, u"LGraph-sorted"_s, u"ChngView"_s},
+                  {FormName::LGraph, u"LGraph-since"_s, u"GWhichCnt"_s},
+                  {FormName::LGraph, u"LGraph-3d"_s, u"TwoDBut"_s},
                   {FormName::Lottery, u"Lottery"_s, {}},
                   {FormName::Lottery, u"Lottery-sets"_s, u"CalcAllNum"_s},
                   {FormName::Lottery, u"Lottery-help"_s, u"PHelp"_s},
                   {FormName::LCheckWin, u"LCheckWin"_s, {}},
+                  {FormName::LCheckWin, u"LCheckWin-results"_s, u"CCalc"_s, typeNumbers},
                   {FormName::LCheckWin, u"LCheckWin-help"_s, u"CHelp"_s},
                   {FormName::LInvTrack, u"LInvTrack"_s, {}, openStatement},
                   {FormName::LInvTrack, u"LInvTrack-help"_s, u"IHelp"_s, openStatement}},
@@ -195,6 +216,9 @@ int main(int argc, char* argv[])
     }
     window.AddForm(FormName::LDbase, [&](FormSwitcher& switcher, QWidget* parent) {
         return new LDbase(shared, prompts, switcher, parent);
+    });
+    window.AddForm(FormName::LGraph, [&](FormSwitcher& switcher, QWidget* parent) {
+        return new LGraph(shared, prompts, switcher, parent);
     });
     window.AddForm(FormName::LCheckWin, [&](FormSwitcher& switcher, QWidget* parent) {
         return new LCheckWin(shared, prompts, switcher, parent);

@@ -9,6 +9,9 @@ FormBench::FormBench()
     m_window.AddForm(FormName::LDbase, [this](FormSwitcher& switcher, QWidget* parent) {
         return new LDbase(m_shared, m_prompts, switcher, parent);
     });
+    m_window.AddForm(FormName::LGraph, [this](FormSwitcher& switcher, QWidget* parent) {
+        return new LGraph(m_shared, m_prompts, switcher, parent);
+    });
     m_window.AddForm(FormName::LCheckWin, [this](FormSwitcher& switcher, QWidget* parent) {
         return new LCheckWin(m_shared, m_prompts, switcher, parent);
     });

@@ -4,6 +4,7 @@
 #include "app/MDIContainer.h"
 #include "database/Extract.h"
 #include "database/LDbase.h"
+#include "database/LGraph.h"
 #include "invest/LInvTrack.h"
 #include "picks/LCheckWin.h"
 #include "picks/Lottery.h"

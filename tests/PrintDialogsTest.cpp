@@ -5,11 +5,14 @@
 #include "app/PrintPreview.h"
 #include "app/Printing.h"
 #include "tests/CannedPrompts.h"
+#include "tests/MadeChart.h"
 #include "tests/ModalWindows.h"
 #include "tests/QtPrinters.h"
 #include "tests/TestFiles.h"
 
+#include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -30,11 +33,13 @@ namespace {
 class CannedPrinters : public PrinterDoor
 {
 public:
-    DefaultPrinter printer{.name = u"Laser"_s, .paper = QPageSize(QPageSize::Letter), .reason = {}};
+    DefaultPrinter printer{
+        .name = u"Laser"_s, .instance = {}, .paper = QPageSize(QPageSize::Letter), .reason = {}};
     Outcome outcome;
     std::vector<PrintedDocument> printed;
     bool anyThread = true;
     QThread* thread = nullptr; ///< the one it printed on
+    std::function<void()> onPrint = [] {};
 
     [[nodiscard]] bool WorksOnAnyThread() const override { return anyThread; }
     [[nodiscard]] DefaultPrinter Default() override { return printer; }
@@ -44,6 +49,7 @@ public:
         EXPECT_EQ(on.name, printer.name);
         printed.push_back(document);
         thread = QThread::currentThread();
+        onPrint();
         pagesDone(1);
         return outcome;
     }
@@ -90,6 +96,28 @@ TEST_F(PaperPrintingTest, ADoorThatNeedsTheThreadOfTheWindowsGetsIt)
     EXPECT_EQ(m_printers.printed.size(), 2U);
 }
 
+TEST_F(PaperPrintingTest, ThePointerIsBusyWhilePrintingAndNotWhileAnythingIsTold)
+{
+    m_printers.anyThread = false; // so that the door can look at it
+    m_printers.onPrint = [this] { EXPECT_TRUE(m_prompts.busy); };
+    m_printing.Print(Pages(2));
+    EXPECT_EQ(m_printers.printed.size(), 1U);
+    EXPECT_FALSE(m_prompts.busy);
+    m_printers.outcome = Outcome::Failure(u"No space left on device"_s);
+    m_prompts.onNotice = [this] { EXPECT_FALSE(m_prompts.busy); };
+    m_printing.Print(Pages(2));
+    EXPECT_EQ(m_prompts.notices.size(), 1);
+    EXPECT_FALSE(m_prompts.busy);
+}
+
+TEST_F(PaperPrintingTest, ThePointerIsBusyWhileAPdfFileIsWritten)
+{
+    m_prompts.files = {m_folder.filePath(u"out.pdf"_s)};
+    m_printing.SaveAsPdf(ChartDocument(MadeChart(49, 175)), QPageSize(QPageSize::A4));
+    EXPECT_EQ(m_prompts.busyChanges, (std::deque<bool>{true, false}));
+    EXPECT_TRUE(BytesOf(m_folder.filePath(u"out.pdf"_s)).startsWith("%PDF-"));
+}
+
 TEST_F(PaperPrintingTest, AFailureIsToldWithThePrinterAndTheSystemsReason)
 {
     m_printers.outcome = Outcome::Failure(u"No space left on device"_s);
@@ -106,8 +134,9 @@ TEST_F(PaperPrintingTest, WithoutADefaultPrinterAPdfFileIsAskedForAndPrintedTo)
         .name = {}, .paper = QPageSize(QPageSize::A4), .reason = u"No default destination."_s};
     m_prompts.files = {file};
     m_printing.Print(Pages(3));
-    ASSERT_EQ(m_prompts.notices.size(), 1);
-    EXPECT_TRUE(m_prompts.notices[0].contains(u"There is no default printer."_s));
+    ASSERT_EQ(m_prompts.notices.size(), 2);
+    EXPECT_TRUE(m_prompts.notices[1].contains(file)) << "the user is told where the pages are";
+    EXPECT_TRUE(m_prompts.notices[0].contains(u"There is no printer to print on."_s));
     EXPECT_TRUE(m_prompts.notices[0].contains(u"No default destination."_s));
     EXPECT_EQ(m_prompts.fileDialogModes.back(), kSavePdfFile);
     const QByteArray pdf = BytesOf(file);
@@ -226,11 +255,44 @@ TEST_F(PrintQuestion, OnlyAPrintoutOffersAPreview)
     });
 }
 
+TEST_F(PrintQuestion, AChartIsPrintedInTheInkOfTheSecondAnswer)
+{
+    for (const bool color : {true, false}) {
+        QStringList asked;
+        WhenModalOpens([&](QWidget* first) {
+            asked << first->findChild<QLabel*>(u"Label1"_s)->text();
+            WhenModalOpensOver(first, [&](QWidget* second) {
+                asked << second->findChild<QLabel*>(u"Label1"_s)->text();
+                EXPECT_FALSE(second->findChild<QPushButton*>(u"PreviewButt"_s)->isVisible());
+                Press(second, color ? u"AllYes"_s : u"AllNo"_s);
+            });
+            Press(first, u"AllYes"_s);
+        });
+        m_printers.printed.clear();
+        PrintChartOnRequest(m_shared, m_prompts, MadeChart(49, 175));
+        EXPECT_EQ(asked, (QStringList{u" Continue with Printout."_s, u" Print in Color."_s}));
+        ASSERT_EQ(m_printers.printed.size(), 1U);
+        EXPECT_EQ(m_printers.printed[0].charts.at(0).ink, color ? ChartInk::Color : ChartInk::BlackAndWhite);
+    }
+}
+
+TEST_F(PrintQuestion, TheHourglassIsShownWhilePrinting)
+{
+    m_printers.anyThread = false;
+    m_printers.onPrint = [] {
+        ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    };
+    Request([](QWidget* question) { Press(question, u"AllYes"_s); });
+    EXPECT_EQ(m_printers.printed.size(), 1U);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
 TEST_F(PrintQuestion, ThePreviewShowsThePagesOnThePrintersPaperAndTheQuestionStaysOpen)
 {
     bool seen = false;
     Request([&](QWidget* question) {
-        WhenModalOpensOver(question, [&](QWidget* window) {
+        WhenNextModalOpens([&](QWidget* window) {
             seen = true;
             auto* preview = qobject_cast<PrintPreview*>(window);
             ASSERT_NE(preview, nullptr);
@@ -246,6 +308,39 @@ TEST_F(PrintQuestion, ThePreviewShowsThePagesOnThePrintersPaperAndTheQuestionSta
     });
     EXPECT_TRUE(seen);
     EXPECT_EQ(m_printers.printed.size(), 1U);
+}
+
+TEST_F(PrintQuestion, ThePreviewSavesItsPagesAsPdf)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"pages.pdf"_s);
+    m_shared.pdfFolder = folder.path();
+    m_shared.dialogFolder = u"/where/lotteries/are"_s;
+    Request([&](QWidget* question) {
+        WhenNextModalOpens([&](QWidget* preview) {
+            WhenNextModalOpens([&](QWidget* window) {
+                auto* dialog = qobject_cast<QDialog*>(window);
+                ASSERT_NE(dialog, nullptr);
+                EXPECT_EQ(dialog->windowTitle(), u"Print to a PDF File"_s);
+                EXPECT_EQ(dialog->parentWidget(), preview);
+                WhenNextModalOpens([&](QWidget* notice) {
+                    EXPECT_TRUE(
+                        notice->findChild<QPlainTextEdit*>(u"TextMsg"_s)->toPlainText().contains(file));
+                    notice->close();
+                });
+                dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(u"pages"_s);
+                dialog->accept();
+            });
+            Press(preview, u"SavePdf"_s);
+            Press(preview, u"ClosePreview"_s);
+        });
+        Press(question, u"PreviewButt"_s);
+        Press(question, u"AllNo"_s);
+    });
+    EXPECT_TRUE(BytesOf(file).contains("/Count 3"));
+    EXPECT_EQ(m_shared.pdfFolder, folder.path());
+    EXPECT_EQ(m_shared.dialogFolder, u"/where/lotteries/are"_s)
+        << "the folder of lotteries is another matter";
 }
 
 namespace {
@@ -350,6 +445,32 @@ TEST_F(PrintPreviewTest, ThePageFollowsTheWindow)
     EXPECT_GT(View().height(), small);
 }
 
+TEST_F(PrintPreviewTest, AChartLiesInLandscapeAndHasTheWholePage)
+{
+    PrintedDocument document = Pages(1);
+    document.charts = {MadeChart(49, 175)};
+    m_preview = std::make_unique<PrintPreview>(document, QPageSize(QPageSize::A4), nullptr);
+    m_preview->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(m_preview.get()));
+    EXPECT_EQ(Number(), u"Page 1 of 2"_s);
+    EXPECT_LT(View().width(), View().height());
+    Press(u"NextPage"_s);
+    EXPECT_EQ(Number(), u"Page 2 of 2"_s);
+    EXPECT_GT(View().width(), View().height());
+    const auto* area = m_preview->findChild<QScrollArea*>(u"ScrollArea"_s);
+    EXPECT_LE(View().width(), area->viewport()->width()) << "the whole page is in sight";
+    EXPECT_LE(View().height(), area->viewport()->height());
+    const QImage shown = Shown();
+    int blue = 0;
+    for (int x = 0; x < shown.width(); ++x) {
+        const QColor color = shown.pixelColor(x, shown.height() * 3 / 4);
+        blue += color.blue() > color.red() + 60 ? 1 : 0;
+    }
+    EXPECT_GT(blue, shown.width() / 4) << "the bars";
+    Press(u"PreviousPage"_s);
+    EXPECT_LT(View().width(), View().height());
+}
+
 TEST_F(PrintPreviewTest, ThePageIsWhiteUnderADarkPalette)
 {
     Open(1);
@@ -387,6 +508,66 @@ TEST(LongWork, GivesBackTheOutcome)
         RunLongWork(nullptr, {}, 0, [](const StepsDone&) { return Outcome::Failure(u"why"_s); });
     EXPECT_FALSE(failed.ok);
     EXPECT_EQ(failed.reason, u"why"_s);
+}
+
+TEST(LongWork, WhatTheUserDoesMeanwhileIsDroppedAndNotDoneAfterwards)
+{
+    QMainWindow window;
+    auto* button = new QPushButton(u"Print"_s, &window);
+    window.setCentralWidget(button);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    int presses = 0;
+    QObject::connect(button, &QPushButton::clicked, &window, [&] { ++presses; });
+    std::binary_semaphore clicked(0);
+    QTimer::singleShot(0, &window, [&] {
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, button->geometry().center());
+        QTest::keyClick(&window, Qt::Key_Space);
+        window.close();
+        clicked.release();
+    });
+    EXPECT_TRUE(RunLongWork(&window, {}, 0, [&](const StepsDone&) {
+                    clicked.acquire();
+                    return Outcome{};
+                }).ok);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(presses, 0);
+    EXPECT_TRUE(window.isVisible());
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, button->geometry().center());
+    EXPECT_EQ(presses, 1) << "afterwards input is taken again";
+}
+
+TEST(LongWork, WorkOnTheThreadOfTheWindowsCannotBeEnteredASecondTime)
+{
+    QMainWindow window;
+    auto* button = new QPushButton(&window);
+    window.setCentralWidget(button);
+    window.show();
+    int presses = 0;
+    QObject::connect(button, &QPushButton::clicked, &window, [&] { ++presses; });
+    QTimer impatient;
+    QObject::connect(&impatient, &QTimer::timeout, &window, [&] {
+        QTest::keyClick(&window, Qt::Key_Escape);
+        QTest::mouseClick(button, Qt::LeftButton);
+    });
+    impatient.start(1);
+    bool shown = false;
+    EXPECT_TRUE(RunWorkHere(&window, {}, 1000, [&](const StepsDone& done) {
+                    // As many steps as it takes until the progress is shown, and some more.
+                    for (int step = 0; step < 1000 && !shown; ++step) {
+                        QThread::msleep(2);
+                        done(step);
+                        auto* progress = window.findChild<QProgressDialog*>(u"Progress"_s);
+                        shown = progress != nullptr && progress->isVisible();
+                    }
+                    for (int step = 990; step < 1000; ++step) {
+                        QThread::msleep(2);
+                        done(step);
+                    }
+                    return Outcome{};
+                }).ok);
+    EXPECT_TRUE(shown);
+    EXPECT_EQ(presses, 0);
 }
 
 TEST(LongWork, KeepsTheWindowAliveAndShowsHowFarItIsWhenItTakesLong)

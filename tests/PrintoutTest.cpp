@@ -113,6 +113,24 @@ TEST(Printout, ControlCharactersPrintAsBlanks)
     EXPECT_EQ(PageLines(printout.Document(), 1), (QStringList{{}, u"a b  c d"_s}));
 }
 
+TEST(Printout, EveryPrintedCharacterIsOneColumnWide)
+{
+    Printout printout = Prepared();
+    printout.PrintLine(u"Lotería Łódź Λαχείο Лото €"_s); // a fixed-pitch font has these
+    printout.PrintLine(u"宝くじ 6/49"_s);                // these are two columns wide
+    printout.PrintLine(u"lucky \U0001F340!"_s);          // a pair of surrogates is one character
+    printout.PrintLine(u"Loteri\u0301a \u200Fx"_s);      // a mark, and a sign that only turns the direction
+    EXPECT_EQ(
+        PageLines(printout.Document(), 1),
+        (QStringList{{}, u"Lotería Łódź Λαχείο Лото €"_s, u"??? 6/49"_s, u"lucky ?!"_s, u"Lotería x"_s}));
+}
+
+TEST(Printout, ADocumentIsNamedInAHundredCharacters)
+{
+    EXPECT_EQ(Printout(QString(70'000, u'n'), kStandardFont).Document().name, QString(100, u'n'));
+    EXPECT_EQ(Printout(u"two\r\nlines"_s, kStandardFont).Document().name, u"two lines"_s);
+}
+
 TEST(Printout, ALineThatNoLongerFitsTheSheetStartsANewPage)
 {
     Printout printout = Prepared();
@@ -170,4 +188,22 @@ TEST(Printout, FinishingPrintsTheLineThatIsStillOpen)
     EXPECT_EQ(printout.LinesOnPage(), 2);
     printout.FinishPrinting();
     EXPECT_EQ(PageLines(printout.Document(), 1), (QStringList{{}, u"open"_s}));
+}
+
+TEST(Printout, ChartsAreThePagesAfterThoseOfText)
+{
+    Printout printout = Prepared();
+    printout.FinishPrinting();
+    PrintedDocument document = printout.Document();
+    EXPECT_EQ(PageCount(document), 1);
+    document.charts = {{.title = u"one"_s}, {.title = u"two"_s}};
+    EXPECT_EQ(PageCount(document), 3);
+    EXPECT_EQ(ChartOnPage(document, 0), nullptr);
+    ASSERT_NE(ChartOnPage(document, 1), nullptr);
+    EXPECT_EQ(ChartOnPage(document, 1)->title, u"one"_s);
+    ASSERT_NE(ChartOnPage(document, 2), nullptr);
+    EXPECT_EQ(ChartOnPage(document, 2)->title, u"two"_s);
+    EXPECT_EQ(ChartOnPage(document, 3), nullptr);
+    EXPECT_EQ(ChartOnPage(document, -1), nullptr);
+    EXPECT_FALSE(document == printout.Document());
 }
