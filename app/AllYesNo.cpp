@@ -11,11 +11,18 @@ AllYesNo::AllYesNo(LGLOBAL& shared, QWidget* mainWindow)
 {
     m_ui->setupUi(this);
     m_ui->Label1->setText(CurrentQuestionText(shared));
+    m_ui->PreviewButt->hide();
     connect(m_ui->AllYes, &QPushButton::clicked, this, [this] { Answer(kAnsweredYes); });
     connect(m_ui->AllNo, &QPushButton::clicked, this, [this] { Answer(0); });
 }
 
 AllYesNo::~AllYesNo() = default;
+
+void AllYesNo::OfferPreview(const std::function<void()>& show)
+{
+    m_ui->PreviewButt->show();
+    connect(m_ui->PreviewButt, &QPushButton::clicked, this, show);
+}
 
 void AllYesNo::Answer(qint16 answer)
 {

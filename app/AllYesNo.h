@@ -4,6 +4,7 @@
 
 #include <QDialog>
 
+#include <functional>
 #include <memory>
 
 namespace Ui {
@@ -18,6 +19,9 @@ class AllYesNo : public QDialog
 public:
     AllYesNo(LGLOBAL& shared, QWidget* mainWindow);
     ~AllYesNo() override;
+
+    /// Offers a look at the pages of a printout beside the answers; the question stays open meanwhile.
+    void OfferPreview(const std::function<void()>& show);
 
     /// Closed without an answer: takes the answer that loses nothing.
     void reject() override;

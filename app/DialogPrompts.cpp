@@ -3,6 +3,8 @@
 #include "app/AMsgbox.h"
 #include "app/AllYesNo.h"
 #include "app/FileDir.h"
+#include "app/PaperPrinting.h"
+#include "app/PrintPreview.h"
 
 #include <QGuiApplication>
 
@@ -37,14 +39,28 @@ void DialogPrompts::AskQuestion()
     question.exec();
 }
 
-void DialogPrompts::AskToPrint(const std::function<PrintedDocument()>& /*pages*/)
+void DialogPrompts::AskToPrint(const std::function<PrintedDocument()>& pages)
 {
-    AskQuestion();
+    AllYesNo question(m_shared, m_mainWindow);
+    if (m_unattended) {
+        question.reject();
+        return;
+    }
+    question.OfferPreview([&] {
+        PaperPrinting printing(m_shared, *this, *m_printers, &question);
+        PrintPreview preview(pages(), printing.Paper(), &question);
+        preview.OnSaveAsPdf([&] { printing.SaveAsPdf(preview.Document(), preview.Paper()); });
+        preview.exec();
+    });
+    question.exec();
 }
 
-void DialogPrompts::PrintDocument(const PrintedDocument& /*document*/)
+void DialogPrompts::PrintDocument(const PrintedDocument& document)
 {
-    Notice(QStringLiteral("Printing comes with a later version."));
+    if (m_unattended) {
+        return;
+    }
+    PaperPrinting(m_shared, *this, *m_printers, m_mainWindow).Print(document);
 }
 
 void DialogPrompts::FileDirectory()

@@ -1,14 +1,19 @@
 #pragma once
 
+#include "app/PrinterDoor.h"
 #include "app/Prompts.h"
 
 #include <QWidget>
+
+#include <memory>
 
 /// The prompts of the running program: modal dialogs over the main window.
 class DialogPrompts : public Prompts
 {
 public:
-    explicit DialogPrompts(LGLOBAL& shared) : m_shared(shared) {}
+    explicit DialogPrompts(LGLOBAL& shared, std::unique_ptr<PrinterDoor> printers = SystemPrinters())
+        : m_shared(shared), m_printers(std::move(printers))
+    {}
 
     /// The window the dialogs belong to, once there is one.
     void SetMainWindow(QWidget* mainWindow) { m_mainWindow = mainWindow; }
@@ -27,6 +32,7 @@ public:
 
 private:
     LGLOBAL& m_shared;
+    std::unique_ptr<PrinterDoor> m_printers;
     QWidget* m_mainWindow = nullptr;
     bool m_busy = false;
     bool m_unattended = false;

@@ -13,6 +13,8 @@ QString FileDir::Filter(qint16 mode)
         return u"Investment Database (*.inv)"_s;
     case kSaveInvestmentFile: // the doubled word is the program's own
         return u"Investment Database Database (*.inv)"_s;
+    case kSavePdfFile:
+        return u"PDF (*.pdf)"_s;
     default:
         return u"Lottery Database (*.Lto)"_s;
     }
@@ -20,6 +22,9 @@ QString FileDir::Filter(qint16 mode)
 
 QString FileDir::ProposedName(const LGLOBAL& shared)
 {
+    if (shared.fileDialogMode == kSavePdfFile) {
+        return shared.pdfFileName;
+    }
     const bool investment =
         shared.fileDialogMode == kOpenInvestmentFile || shared.fileDialogMode == kSaveInvestmentFile;
     return investment ? shared.investmentFileName : shared.database.fileName;
@@ -34,6 +39,9 @@ void FileDir::FileDirectory()
     dialog.setAcceptMode(opens ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.selectNameFilter(Filter(m_shared.fileDialogMode));
+    if (m_shared.fileDialogMode == kSavePdfFile) {
+        dialog.setDefaultSuffix(u"pdf"_s); // other files keep the name as it is typed
+    }
     if (const QString name = ProposedName(m_shared); !name.isEmpty()) {
         dialog.selectFile(name);
     }

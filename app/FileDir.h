@@ -11,7 +11,8 @@ class FileDir
 public:
     FileDir(LGLOBAL& shared, QWidget* mainWindow) : m_shared(shared), m_mainWindow(mainWindow) {}
 
-    /// Shows the dialog and waits. chosenPath is the full path, as typed: no ending is added. After a cancel
+    /// Shows the dialog and waits. chosenPath is the full path, as typed: no ending is added,
+    /// but for PDF files. After a cancel
     /// fileDialogMode is kFileDialogCancelled and chosenPath what it was.
     void FileDirectory();
 

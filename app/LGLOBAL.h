@@ -21,6 +21,7 @@ enum FileDialogMode : qint16 {
     kSaveLotteryFile = 2,
     kOpenInvestmentFile = 3,
     kSaveInvestmentFile = 4,
+    kSavePdfFile = 6,
     kFileDialogCancelled = 9,
 };
 
@@ -47,6 +48,7 @@ struct LGLOBAL {
     QString chosenPath;         ///< full path picked in the file dialog; "" when idle
     QString programFolder;      ///< where "Personal.Lot", "Sample.Lto" and "Extract.lto" are
     QString dialogFolder;       ///< folder the file dialog was last in; "" for the current folder
+    QString pdfFileName;        ///< name that is proposed for a PDF file
     QString investmentFileName; ///< name of the investment statement last opened or saved
 
     // Places and pages

@@ -1,6 +1,8 @@
 #include "app/LotoMenu.h"
 
+#include "app/DatabaseReport.h"
 #include "app/LotteryFileCommands.h"
+#include "app/Printing.h"
 #include "app/StartUp.h"
 #include "ui_LotoMenu.h"
 
@@ -158,9 +160,12 @@ void LotoMenu::PrintDatabase()
 {
     if (Shared().database.count == 0) {
         Show(Shared(), Asking(), {.number = kNoRecordsToWorkWith});
-    } else {
-        Switcher().TellComesLater(u"'Print Current Database'"_s);
+        return;
     }
+    PrintOnRequest(Shared(), Asking(), u"Winning numbers in "_s + Shared().database.title,
+                   [this](Printout& printout) {
+                       PrintDatabaseReport(printout, Shared().database, Shared().WhichCnt, Shared().locale);
+                   });
 }
 
 void LotoMenu::Exit()

@@ -13,13 +13,19 @@ constexpr int kStandardLinesPerPage = 53;
 constexpr int kCourierNewLinesPerPage = 56;
 constexpr int kPageNumberColumn = 40;
 
-/// How many characters of @p text go into a line of @p width; the rest goes on in the next. Words and numbers
-/// stay whole where a blank allows it.
+qsizetype LengthWithoutTrailingBlanks(const QString& text)
+{
+    qsizetype length = text.size();
+    while (length > 0 && text.at(length - 1) == u' ') {
+        --length;
+    }
+    return length;
+}
+
+/// How many characters of a text longer than @p width go into a line of that width; the rest goes on in the
+/// next. Words and numbers stay whole where a blank allows it.
 qsizetype LengthOfFirstLine(const QString& text, qsizetype width)
 {
-    if (text.size() <= width) {
-        return text.size();
-    }
     const qsizetype blank = text.lastIndexOf(u' ', width);
     return blank > 0 ? std::min(blank + 1, width) : width;
 }
@@ -88,13 +94,13 @@ void Printout::PrintAt(int column, const QString& text)
     }
     const qsizetype width = kPrintColumns - column + 1;
     QString rest = Printable(text);
-    qsizetype length = LengthOfFirstLine(rest, width);
-    while (length < rest.size()) {
+    while (LengthWithoutTrailingBlanks(rest) > width) {
+        const qsizetype length = LengthOfFirstLine(rest, width);
         m_line.push_back({column, rest.first(length)});
         EndLine();
         rest = rest.sliced(length);
-        length = LengthOfFirstLine(rest, width);
     }
+    rest.truncate(width); // blanks need no line of their own
     m_line.push_back({column, rest});
 }
 

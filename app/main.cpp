@@ -1,10 +1,13 @@
 #include "app/AMsgbox.h"
 #include "app/AllYesNo.h"
 #include "app/ChangeFnt.h"
+#include "app/DatabaseReport.h"
 #include "app/DialogPrompts.h"
 #include "app/LGLOBAL.h"
 #include "app/MDIContainer.h"
 #include "app/PictureTour.h"
+#include "app/PrintPreview.h"
+#include "app/Printing.h"
 #include "app/ProgramFolder.h"
 #include "database/Extract.h"
 #include "database/InRecNum.h"
@@ -88,12 +91,19 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
         shared.questionNumber = kGoBackAndSave;
         return std::make_unique<AllYesNo>(shared, &window);
     };
+    const auto preview = [&] {
+        const PrintedDocument pages = MakeDocument(shared, shared.database.title, [&](Printout& printout) {
+            PrintDatabaseReport(printout, shared.database, shared.WhichCnt, shared.locale);
+        });
+        return std::make_unique<PrintPreview>(pages, UsualPaper(shared.locale), &window);
+    };
     const auto records = [&] { return std::make_unique<InRecNum>(shared, &window); };
     const auto settings = [&] { return std::make_unique<ChangeFnt>(shared, prompts, window, &window); };
     const auto extract = [&] { return std::make_unique<Extract>(shared, prompts, window, &window); };
     return {
         {u"AMsgbox"_s, message, {}},
         {u"AllYesNo"_s, question, {}},
+        {u"PrintPreview"_s, preview, {}},
         {u"InRecNum"_s, records, {}},
         {u"InRecNum-insert"_s, records, u"CorInsDel1"_s},
         {u"InRecNum-delete"_s, records, u"CorInsDel2"_s},

@@ -1,4 +1,5 @@
 #include "tests/FormBench.h"
+#include "tests/PrintedPages.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -118,8 +119,7 @@ TEST_F(MainWindow, AButtonWhoseFormComesLaterSaysSoAndTheMenuStays)
 {
     Start();
     FillDatabase(1);
-    const QStringList later{u"PickForm"_s, u"CheckWin"_s,   u"ShowGraph1"_s,
-                            u"InvTrack"_s, u"PrintDbase"_s, u"HowtoUse"_s};
+    const QStringList later{u"CheckWin"_s, u"ShowGraph1"_s, u"InvTrack"_s, u"HowtoUse"_s};
     for (const QString& name : later) {
         m_prompts.notices.clear();
         Click(name);
@@ -131,6 +131,48 @@ TEST_F(MainWindow, AButtonWhoseFormComesLaterSaysSoAndTheMenuStays)
         EXPECT_TRUE(Button(name).isVisible());
     }
     EXPECT_EQ(m_shared.graphCaller, 1);
+}
+
+TEST_F(MainWindow, TheDatabaseIsPrintedAfterYes)
+{
+    Start();
+    FillDatabase(60);
+    m_prompts.answers = {true};
+    Click(u"PrintDbase"_s);
+    EXPECT_EQ(m_prompts.askedTexts, QStringList{u" Continue with Printout."_s});
+    ASSERT_EQ(m_prompts.printed.size(), 1U);
+    EXPECT_EQ(m_prompts.printed.front().name, u"Winning numbers in Test 6/49"_s);
+    EXPECT_EQ(m_prompts.printed.front().pages.size(), 2U);
+    EXPECT_EQ(m_shared.linesPerPage, 53);
+    EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
+}
+
+TEST_F(MainWindow, TheDatabaseIsNotPrintedAfterNoAndStaysAsItIs)
+{
+    Start();
+    FillDatabase(60);
+    const DrawDatabase before = m_shared.database;
+    m_prompts.answers = {false};
+    Click(u"PrintDbase"_s);
+    EXPECT_TRUE(m_prompts.printed.empty());
+    EXPECT_EQ(m_shared.database.records, before.records);
+}
+
+TEST_F(MainWindow, ThePrintoutShowsTheCountThatWasLastChosen)
+{
+    Start();
+    FillDatabase(3);
+    m_prompts.answers = {true, true};
+    m_shared.settings.printerFont = kCourierNewFont;
+    m_shared.WhichCnt = CountMode::SinceLastDrawn;
+    Click(u"PrintDbase"_s);
+    m_shared.WhichCnt = CountMode::TimesDrawn;
+    Click(u"PrintDbase"_s);
+    ASSERT_EQ(m_prompts.printed.size(), 2U);
+    EXPECT_TRUE(PagesText(m_prompts.printed.at(0)).contains(u"Number of draws since last drawn"_s));
+    EXPECT_TRUE(PagesText(m_prompts.printed.at(1)).contains(u"Showing the count of times numbers drawn"_s));
+    EXPECT_EQ(m_prompts.printed.at(0).printerFont, kCourierNewFont);
+    EXPECT_EQ(m_shared.linesPerPage, 56);
 }
 
 TEST_F(MainWindow, TheEditorTakesTheMenusPlaceAndGivesItBack)

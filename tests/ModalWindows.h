@@ -17,14 +17,16 @@
     return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
 }
 
-/// Runs @p act on the modal window that opens next, unless @p owner is gone by then. The act has to close the
-/// window: one that stays open fails the test and is closed.
-inline void WhenModalOpens(const std::function<void(QWidget*)>& act, QObject* owner = qApp)
+/// Runs @p act on the modal window that opens next over @p below, unless @p owner is gone by then. The act
+/// has to close the window: one that stays open fails the test and is closed. The window that shows how far
+/// long work is does not count.
+inline void WhenModalOpensOver(const QWidget* below, const std::function<void(QWidget*)>& act,
+                               QObject* owner = qApp)
 {
     auto* timer = new QTimer(owner);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, act] {
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, act, below] {
         const QPointer<QWidget> modal = QApplication::activeModalWidget();
-        if (modal == nullptr) {
+        if (modal == nullptr || modal == below || modal->objectName() == QStringLiteral("Progress")) {
             return;
         }
         timer->stop();
@@ -37,4 +39,10 @@ inline void WhenModalOpens(const std::function<void(QWidget*)>& act, QObject* ow
         }
     });
     timer->start(5);
+}
+
+/// The same for the first modal window.
+inline void WhenModalOpens(const std::function<void(QWidget*)>& act, QObject* owner = qApp)
+{
+    WhenModalOpensOver(nullptr, act, owner);
 }

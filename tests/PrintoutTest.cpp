@@ -89,6 +89,14 @@ TEST(Printout, ATextIsBrokenAtABlankSoThatNumbersStayWhole)
               (QStringList{{}, QString(73, u'a'), u"49 50"_s, QString(75, u'b'), u" 49"_s}));
 }
 
+TEST(Printout, BlanksAtTheEndTakeNoLineOfTheirOwn)
+{
+    Printout printout = Prepared();
+    printout.PrintLine(QString(74, u'a') + u"   "_s);
+    printout.PrintLine(QString(80, u' '));
+    EXPECT_EQ(PageLines(printout.Document(), 1), (QStringList{{}, QString(74, u'a'), {}}));
+}
+
 TEST(Printout, AColumnOffThePaperIsHeldToIt)
 {
     Printout printout = Prepared();

@@ -1,0 +1,350 @@
+#include "app/DatabaseReport.h"
+#include "app/DialogPrompts.h"
+#include "app/LongWork.h"
+#include "app/MDIContainer.h"
+#include "app/PrinterDoor.h"
+#include "app/Printing.h"
+#include "app/QtPrinters.h"
+#include "tests/ModalWindows.h"
+#include "tests/PrintScheduler.h"
+#include "tests/PrintedPages.h"
+#include "tests/QtPrinters.h"
+
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double kLeftMargin = 0.4 * 72; // points
+constexpr double kLineHeight = 12;
+
+struct PaperCase {
+    QString paper;
+    QSizeF size; ///< in points
+};
+
+const PaperCase kA4{u"A4"_s, {595.3, 841.9}};
+const PaperCase kLetter{u"Letter"_s, {612, 792}};
+
+PrintedDocument DatabasePrintout(qint16 font, int records, int picks = 6)
+{
+    LGLOBAL shared;
+    shared.settings.printerFont = font;
+    shared.locale = QLocale(QLocale::English, QLocale::UnitedStates);
+    shared.database.columns = qint16(picks + 2);
+    shared.database.highest = 49;
+    shared.database.title = u"Lotería"_s;
+    for (int record = 1; record <= records; ++record) {
+        std::vector<int> numbers;
+        for (int k = 0; k < picks; ++k) {
+            numbers.push_back((record * 7 + k * 3) % 49 + 1);
+        }
+        EXPECT_TRUE(shared.database.Append(QDate(2020, 1, 1).addDays(record), numbers));
+    }
+    return MakeDocument(shared, u"Winning numbers in Lotería"_s, [&](Printout& printout) {
+        PrintDatabaseReport(printout, shared.database, CountMode::TimesDrawn, shared.locale);
+    });
+}
+
+/// A word of the document with the column it begins at and its line, both from 0.
+struct DocumentWord {
+    qsizetype column;
+    qsizetype line;
+    QString text;
+};
+
+std::vector<DocumentWord> WordsOf(const PrintedDocument& document, int page)
+{
+    std::vector<DocumentWord> words;
+    const QStringList lines = PageLines(document, page);
+    const QRegularExpression word(u"\\S+"_s);
+    for (qsizetype line = 0; line < lines.size(); ++line) {
+        for (auto found = word.globalMatch(lines.at(line)); found.hasNext();) {
+            const QRegularExpressionMatch match = found.next();
+            words.push_back({match.capturedStart(), line, match.captured()});
+        }
+    }
+    return words;
+}
+
+/// Every word of the document stands on paper at its column and on its line.
+void ExpectOnPaper(const PrintedDocument& document, const std::vector<PaperPage>& paper, const QSizeF& size)
+{
+    const double column = document.printerFont == kCourierNewFont ? 6.6 : 7.2;
+    ASSERT_EQ(paper.size(), document.pages.size());
+    for (size_t page = 0; page < paper.size(); ++page) {
+        SCOPED_TRACE(page + 1);
+        EXPECT_NEAR(paper[page].size.width(), size.width(), 0.5);
+        EXPECT_NEAR(paper[page].size.height(), size.height(), 0.5);
+        const std::vector<DocumentWord> words = WordsOf(document, int(page) + 1);
+        ASSERT_EQ(paper[page].words.size(), words.size());
+        ASSERT_FALSE(words.empty());
+        const double top = paper[page].words[0].y - double(words[0].line) * kLineHeight;
+        for (size_t i = 0; i < words.size(); ++i) {
+            const PaperWord& printed = paper[page].words[i];
+            EXPECT_EQ(printed.text, words[i].text);
+            EXPECT_NEAR(printed.x, kLeftMargin + double(words[i].column) * column, 0.3)
+                << words[i].text.toStdString();
+            EXPECT_NEAR(printed.y - top, double(words[i].line) * kLineHeight, 0.3)
+                << words[i].text.toStdString();
+        }
+    }
+}
+
+/// The system's door as the program uses it: each call on a thread of its own, which asks the scheduler anew.
+class DoorOnThread
+{
+public:
+    [[nodiscard]] DefaultPrinter Default()
+    {
+        DefaultPrinter printer;
+        RunLongWork(nullptr, {}, 0, [&](const StepsDone&) {
+            printer = m_door->Default();
+            return Outcome{};
+        });
+        return printer;
+    }
+
+    [[nodiscard]] Outcome Print(const PrintedDocument& document, const DefaultPrinter& printer)
+    {
+        return RunLongWork(nullptr, {}, 0,
+                           [&](const StepsDone& done) { return m_door->Print(document, printer, done); });
+    }
+
+private:
+    std::unique_ptr<PrinterDoor> m_door = SystemPrinters();
+};
+
+class PrintOnPaper : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        if (!m_scheduler.WhyNot().isEmpty()) {
+            GTEST_SKIP() << m_scheduler.WhyNot().toStdString();
+        }
+    }
+
+    [[nodiscard]] Outcome Print(const PrintedDocument& document)
+    {
+        const DefaultPrinter printer = m_door.Default();
+        EXPECT_TRUE(printer.Exists()) << printer.reason.toStdString();
+        return m_door.Print(document, printer);
+    }
+
+    PrintScheduler m_scheduler;
+    DoorOnThread m_door;
+};
+
+} // namespace
+
+TEST_F(PrintOnPaper, EveryWordStandsAtItsColumnInBothFontsAndOnBothPapers)
+{
+    for (const PaperCase& paper : {kA4, kLetter}) {
+        m_scheduler.AddQueue(paper.paper, paper.paper);
+        m_scheduler.MakeDefault(paper.paper);
+        for (const qint16 font : {kStandardFont, kCourierNewFont}) {
+            SCOPED_TRACE(paper.paper.toStdString() +
+                         (font == kStandardFont ? ", standard" : ", Courier New"));
+            const PrintedDocument document = DatabasePrintout(font, 120);
+            ASSERT_EQ(document.pages.size(), 3U);
+            const Outcome printed = Print(document);
+            EXPECT_TRUE(printed.ok) << printed.reason.toStdString();
+            ExpectOnPaper(document, m_scheduler.PrintedPages(paper.paper), paper.size);
+        }
+    }
+}
+
+TEST_F(PrintOnPaper, TheTextReadBackIsThatOfTheLines)
+{
+    m_scheduler.AddQueue(u"q"_s, u"A4"_s);
+    m_scheduler.MakeDefault(u"q"_s);
+    const PrintedDocument document = DatabasePrintout(kStandardFont, 60, 10);
+    ASSERT_TRUE(Print(document).ok);
+    const QString text = m_scheduler.Run(u"pdftotext"_s, {u"-layout"_s, m_scheduler.Printed(u"q"_s), u"-"_s});
+    const QStringList pages = text.split(u'\f', Qt::SkipEmptyParts);
+    ASSERT_EQ(pages.size(), qsizetype(document.pages.size()));
+    for (int page = 1; page <= int(pages.size()); ++page) {
+        QStringList expected;
+        QStringList found;
+        for (const QString& line : PageLines(document, page)) {
+            expected << line.simplified();
+        }
+        for (const QString& line : pages.at(page - 1).split(u'\n')) {
+            found << line.simplified();
+        }
+        expected.removeAll(QString());
+        found.removeAll(QString());
+        EXPECT_EQ(found, expected);
+    }
+}
+
+TEST_F(PrintOnPaper, TheFontsTravelWithThePages)
+{
+    m_scheduler.AddQueue(u"q"_s, u"Letter"_s);
+    m_scheduler.MakeDefault(u"q"_s);
+    for (const qint16 font : {kStandardFont, kCourierNewFont}) {
+        ASSERT_TRUE(Print(DatabasePrintout(font, 1)).ok);
+        const QString fonts = m_scheduler.Run(u"pdffonts"_s, {m_scheduler.Printed(u"q"_s)});
+        const QStringList rows = fonts.split(u'\n', Qt::SkipEmptyParts).mid(2);
+        ASSERT_EQ(rows.size(), 1) << fonts.toStdString();
+        EXPECT_TRUE(rows.first().contains(u"TrueType"_s)) << fonts.toStdString();
+        EXPECT_TRUE(rows.first().contains(QRegularExpression(u" yes +(yes|no) +yes "_s)))
+            << fonts.toStdString();
+        EXPECT_TRUE(rows.first().contains(u"Mono"_s) || rows.first().contains(u"Courier"_s))
+            << fonts.toStdString();
+    }
+}
+
+TEST_F(PrintOnPaper, ThePaperIsThatOfTheDefaultPrinter)
+{
+    m_scheduler.AddQueue(u"letter"_s, u"Letter"_s);
+    m_scheduler.AddQueue(u"a4"_s, u"A4"_s);
+    m_scheduler.MakeDefault(u"letter"_s);
+    EXPECT_EQ(m_door.Default().name, u"letter"_s);
+    EXPECT_EQ(m_door.Default().paper.id(), QPageSize::Letter);
+    m_scheduler.MakeDefault(u"a4"_s);
+    EXPECT_EQ(m_door.Default().name, u"a4"_s);
+    EXPECT_EQ(m_door.Default().paper.id(), QPageSize::A4);
+}
+
+TEST_F(PrintOnPaper, ThePaperThatTheUserChoseForTheQueueComesFirst)
+{
+    m_scheduler.AddQueue(u"q"_s, u"Letter"_s);
+    m_scheduler.MakeDefault(u"q"_s);
+    m_scheduler.Run(u"lpoptions"_s, {u"-p"_s, u"q"_s, u"-o"_s, u"media=iso_a4_210x297mm"_s});
+    EXPECT_EQ(m_door.Default().paper.id(), QPageSize::A4);
+}
+
+TEST_F(PrintOnPaper, WithoutADefaultPrinterTheReasonIsTheSystems)
+{
+    const DefaultPrinter printer = m_door.Default();
+    EXPECT_FALSE(printer.Exists());
+    EXPECT_EQ(printer.reason, u"No default destination."_s);
+    EXPECT_TRUE(printer.paper.isValid());
+}
+
+TEST_F(PrintOnPaper, ADefaultPrinterThatIsGoneIsNamedAsTheReason)
+{
+    m_scheduler.AddQueue(u"q"_s, u"A4"_s);
+    m_scheduler.Run(u"lpoptions"_s, {u"-d"_s, u"q"_s});
+    m_scheduler.Run(u"lpadmin"_s, {u"-x"_s, u"q"_s});
+    const DefaultPrinter printer = m_door.Default();
+    EXPECT_FALSE(printer.Exists());
+    EXPECT_TRUE(printer.reason.contains(u"does not exist"_s)) << printer.reason.toStdString();
+}
+
+TEST_F(PrintOnPaper, AStoppedQueueRefusesWithItsOwnWordsAndGetsNoJob)
+{
+    m_scheduler.AddQueue(u"q"_s, u"A4"_s);
+    m_scheduler.MakeDefault(u"q"_s);
+    m_scheduler.Run(u"cupsdisable"_s, {u"-r"_s, u"Out of paper since Monday"_s, u"q"_s});
+    const Outcome printed = Print(DatabasePrintout(kStandardFont, 3));
+    EXPECT_FALSE(printed.ok);
+    EXPECT_TRUE(printed.reason.contains(u"stopped"_s)) << printed.reason.toStdString();
+    EXPECT_TRUE(printed.reason.contains(u"Out of paper since Monday"_s)) << printed.reason.toStdString();
+    EXPECT_EQ(m_scheduler.Jobs(), QString());
+}
+
+TEST_F(PrintOnPaper, AQueueThatRejectsJobsIsSaidSo)
+{
+    m_scheduler.AddQueue(u"q"_s, u"A4"_s);
+    m_scheduler.MakeDefault(u"q"_s);
+    m_scheduler.Run(u"cupsreject"_s, {u"q"_s});
+    const Outcome printed = Print(DatabasePrintout(kStandardFont, 3));
+    EXPECT_FALSE(printed.ok);
+    EXPECT_TRUE(printed.reason.contains(u"not accepting jobs"_s)) << printed.reason.toStdString();
+    EXPECT_EQ(m_scheduler.Jobs(), QString());
+}
+
+TEST_F(PrintOnPaper, AQueueThatVanishesMeanwhileIsSaidSo)
+{
+    m_scheduler.AddQueue(u"q"_s, u"A4"_s);
+    m_scheduler.MakeDefault(u"q"_s);
+    const DefaultPrinter printer = m_door.Default();
+    m_scheduler.Run(u"lpadmin"_s, {u"-x"_s, u"q"_s});
+    const Outcome printed = m_door.Print(DatabasePrintout(kStandardFont, 3), printer);
+    EXPECT_FALSE(printed.ok);
+    EXPECT_TRUE(printed.reason.contains(u"does not exist"_s)) << printed.reason.toStdString();
+}
+
+TEST_F(PrintOnPaper, ASchedulerThatIsGoneIsAReason)
+{
+    m_scheduler.AddQueue(u"q"_s, u"A4"_s);
+    m_scheduler.MakeDefault(u"q"_s);
+    const DefaultPrinter printer = m_door.Default();
+    m_scheduler.Stop();
+    const Outcome printed = m_door.Print(DatabasePrintout(kStandardFont, 3), printer);
+    EXPECT_FALSE(printed.ok);
+    EXPECT_FALSE(printed.reason.isEmpty());
+    EXPECT_FALSE(m_door.Default().Exists());
+}
+
+TEST_F(PrintOnPaper, TheMenusButtonPrintsTheDatabaseOnTheDefaultPrinter)
+{
+    m_scheduler.AddQueue(u"q"_s, u"A4"_s);
+    m_scheduler.MakeDefault(u"q"_s);
+    const QTemporaryDir folder;
+    LGLOBAL shared;
+    shared.locale = QLocale(QLocale::English, QLocale::UnitedStates);
+    DialogPrompts prompts(shared);
+    MDIContainer window(shared, prompts, folder.path());
+    prompts.SetMainWindow(&window);
+    window.Start();
+    window.show();
+    shared.database.columns = 8;
+    shared.database.highest = 49;
+    shared.database.title = u"Ours"_s;
+    for (int record = 1; record <= 55; ++record) {
+        ASSERT_TRUE(
+            shared.database.Append(QDate(2020, 1, 1).addDays(record), {record % 49 + 1, 2, 3, 4, 5, 6}));
+    }
+    const DrawDatabase before = shared.database;
+    WhenModalOpens([](QWidget* question) {
+        QTest::mouseClick(question->findChild<QPushButton*>(u"AllYes"_s), Qt::LeftButton);
+    });
+    QTest::mouseClick(window.findChild<QPushButton*>(u"PrintDbase"_s), Qt::LeftButton);
+    const PrintedDocument expected = MakeDocument(shared, {}, [&](Printout& printout) {
+        PrintDatabaseReport(printout, before, CountMode::TimesDrawn, shared.locale);
+    });
+    ExpectOnPaper(expected, m_scheduler.PrintedPages(u"q"_s), kA4.size);
+    EXPECT_EQ(shared.database.records, before.records);
+}
+
+TEST_F(PrintOnPaper, TheToolkitsWayPutsTheSameWordsOnPaper)
+{
+    m_scheduler.AddQueue(u"q"_s, u"Letter"_s);
+    m_scheduler.MakeDefault(u"q"_s);
+    QtPrinters door;
+    const DefaultPrinter printer = door.Default();
+    if (!printer.Exists()) {
+        GTEST_SKIP() << "the toolkit has no way to CUPS on this machine: " << printer.reason.toStdString();
+    }
+    EXPECT_EQ(printer.name, u"q"_s);
+    const PrintedDocument document = DatabasePrintout(kCourierNewFont, 80);
+    int pages = 0;
+    const Outcome printed = door.Print(document, printer, [&](int done) { pages = done; });
+    EXPECT_TRUE(printed.ok) << printed.reason.toStdString();
+    EXPECT_EQ(pages, 2);
+    ExpectOnPaper(document, m_scheduler.PrintedPages(u"q"_s), kLetter.size);
+}
+
+TEST(PrintOnAFullDisk, TheReasonIsToldAndNoJobIsLeft)
+{
+    PrintScheduler scheduler(u"full"_s);
+    if (!scheduler.WhyNot().isEmpty()) {
+        GTEST_SKIP() << scheduler.WhyNot().toStdString();
+    }
+    scheduler.AddQueue(u"q"_s, u"A4"_s);
+    scheduler.MakeDefault(u"q"_s);
+    DoorOnThread door;
+    const DefaultPrinter printer = door.Default();
+    ASSERT_TRUE(printer.Exists()) << printer.reason.toStdString();
+    const Outcome printed = door.Print(DatabasePrintout(kStandardFont, 2001, 10), printer);
+    EXPECT_FALSE(printed.ok);
+    EXPECT_TRUE(printed.reason.contains(u"no room for the pages"_s)) << printed.reason.toStdString();
+    EXPECT_EQ(scheduler.Jobs(), QString());
+}
