@@ -183,6 +183,8 @@ void InputBox::mouseReleaseEvent(QMouseEvent* event)
     if (m_rules.click == InputRules::Click::EmptiesBox) {
         m_shared->entryEdited = 1;
         clear();
+    } else if (m_rules.click == InputRules::Click::SelectsTextEachTime) {
+        selectAll();
     } else if (std::exchange(m_selectOnRelease, false) && !hasSelectedText()) {
         selectAll();
     }
@@ -195,7 +197,7 @@ void InputBox::focusInEvent(QFocusEvent* event)
         return;
     }
     QApplication::clipboard()->clear(); // so that nothing can be pasted into the box
-    if (m_rules.click == InputRules::Click::SelectsText) {
+    if (m_rules.click != InputRules::Click::EmptiesBox) {
         selectAll();
         m_selectOnRelease = event->reason() == Qt::MouseFocusReason;
     }
