@@ -25,8 +25,6 @@ QString NameOf(FormName name)
         return u"'Selectorium'"_s;
     case FormName::LCheckWin:
         return u"'Check Winners'"_s;
-    case FormName::LGraph:
-        return u"'Show Graphs'"_s;
     case FormName::Extract:
         return u"'Extract between two Dates'"_s;
     case FormName::LInvTrack:

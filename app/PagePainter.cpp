@@ -1,5 +1,7 @@
 #include "app/PagePainter.h"
 
+#include "app/ChartPainter.h"
+
 #include <QBuffer>
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -106,17 +108,40 @@ qreal ScaleFor(const QSizeF& paper)
     return std::min({qreal(1), paper.width() / width, paper.height() / height});
 }
 
+/// The chart takes the whole page but for its margins.
+void PaintChartPage(QPainter& painter, const BarChart& chart, const QSizeF& size)
+{
+    constexpr qreal kMargin = 0.5 * kPageUnitsPerInch;
+    constexpr int kTextSize = int(9.5 * kUnitsPerPoint);
+    const QRectF area = QRectF(QPointF(), size).adjusted(kMargin, kMargin, -kMargin, -kMargin);
+    const ChartLook look = LookOnPaper(chart.ink, kTextSize);
+    PaintChart(painter, LayOutChart(chart, area, look.font, painter.device()), chart, look);
+}
+
 } // namespace
 
-QSizeF PaperSize(const QPageSize& paper)
+QPageLayout::Orientation OrientationOf(const PrintedDocument& document, int page, const QPageSize& paper)
 {
-    return paper.size(QPageSize::Inch) * kPageUnitsPerInch;
+    const QSizeF size = paper.size(QPageSize::Point);
+    const bool turned = ChartOnPage(document, page) != nullptr && size.width() < size.height();
+    return turned ? QPageLayout::Landscape : QPageLayout::Portrait;
+}
+
+QSizeF SizeOfPage(const PrintedDocument& document, int page, const QPageSize& paper)
+{
+    const QPageLayout sheet(paper, OrientationOf(document, page, paper), QMarginsF());
+    return sheet.fullRect(QPageLayout::Inch).size() * kPageUnitsPerInch;
 }
 
 void PaintPage(QPainter& painter, const PrintedDocument& document, int page, const QPageSize& paper)
 {
+    const QSizeF size = SizeOfPage(document, page, paper);
+    if (const BarChart* chart = ChartOnPage(document, page)) {
+        PaintChartPage(painter, *chart, size);
+        return;
+    }
     painter.save();
-    const qreal scale = ScaleFor(PaperSize(paper));
+    const qreal scale = ScaleFor(size);
     painter.scale(scale, scale);
     painter.translate(kLeftMargin, kTopMargin);
     PaintLines(painter, document.pages.at(size_t(page)), FontOf(document.printerFont, painter.device()));
@@ -133,11 +158,14 @@ Outcome MakePdf(const PrintedDocument& document, const QPageSize& paper, QByteAr
     writer.setTitle(document.name);
     writer.setCreator(u"Quillaby System"_s);
     writer.setResolution(kPageUnitsPerInch);
-    writer.setPageSize(paper);
-    writer.setPageMargins(QMarginsF());
+    const auto lay = [&](int page) { // it counts from the next page on
+        writer.setPageLayout(QPageLayout(paper, OrientationOf(document, page, paper), QMarginsF()));
+    };
+    lay(0);
     QPainter painter;
     bool painted = painter.begin(&writer);
-    for (int page = 0; painted && page < int(document.pages.size()); ++page) {
+    for (int page = 0; painted && page < PageCount(document); ++page) {
+        lay(page);
         painted = page == 0 || writer.newPage();
         if (painted) {
             PaintPage(painter, document, page, paper);

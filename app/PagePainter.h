@@ -4,6 +4,7 @@
 #include "app/Printout.h"
 
 #include <QByteArray>
+#include <QPageLayout>
 #include <QPageSize>
 #include <QPainter>
 
@@ -13,12 +14,17 @@
 /// line of either font 120 units high.
 inline constexpr int kPageUnitsPerInch = 720;
 
-/// The paper in page units.
-[[nodiscard]] QSizeF PaperSize(const QPageSize& paper);
+/// How that paper lies for a page of the document: for a chart it is wider than high. @param page  0 for the
+/// first
+[[nodiscard]] QPageLayout::Orientation OrientationOf(const PrintedDocument& document, int page,
+                                                     const QPageSize& paper);
+
+/// That page in page units, as it lies.
+[[nodiscard]] QSizeF SizeOfPage(const PrintedDocument& document, int page, const QPageSize& paper);
 
 /// Paints a page of a document as it looks on that paper. The painter's units are page units and its origin
-/// is the left upper corner of the paper. Paper smaller than A4 or Letter gets a smaller picture of the page,
-/// so that nothing is cut off.
+/// is the left upper corner of the paper as it lies. Paper smaller than A4 or Letter gets a smaller picture
+/// of the page, so that nothing is cut off.
 ///
 /// @param page  0 for the first
 void PaintPage(QPainter& painter, const PrintedDocument& document, int page, const QPageSize& paper);

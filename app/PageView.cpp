@@ -35,7 +35,7 @@ void PageView::SetZoom(qreal zoom)
 
 QSizeF PageView::SizeAt(qreal zoom) const
 {
-    return PaperSize(m_paper) * (zoom * logicalDpiX() / kPageUnitsPerInch);
+    return SizeOfPage(m_document, m_page, m_paper) * (zoom * logicalDpiX() / kPageUnitsPerInch);
 }
 
 qreal PageView::ZoomForPage(QSize room) const
@@ -66,12 +66,12 @@ void PageView::paintEvent(QPaintEvent* /*event*/)
     painter.fillRect(sheet, Qt::white); // paper is white under every palette
     painter.setPen(Qt::gray);
     painter.drawRect(sheet);
-    if (m_page < 0 || size_t(m_page) >= m_document.pages.size()) {
+    if (m_page < 0 || m_page >= PageCount(m_document)) {
         return;
     }
     painter.setClipRect(sheet);
     painter.translate(sheet.topLeft());
-    const qreal scale = size.width() / PaperSize(m_paper).width();
+    const qreal scale = size.width() / SizeOfPage(m_document, m_page, m_paper).width();
     painter.scale(scale, scale);
     PaintPage(painter, m_document, m_page, m_paper);
 }

@@ -35,8 +35,11 @@ Outcome WritePdf(const PrintedDocument& document, const QPageSize& paper, const 
 Outcome PaperPrinting::Run(const QString& text, int steps,
                            const std::function<Outcome(const PagesDone&)>& work)
 {
-    return m_printers.WorksOnAnyThread() ? RunLongWork(m_mainWindow, text, steps, work)
-                                         : RunWorkHere(m_mainWindow, text, steps, work);
+    m_prompts.SetBusyPointer(true);
+    const Outcome outcome = m_printers.WorksOnAnyThread() ? RunLongWork(m_mainWindow, text, steps, work)
+                                                          : RunWorkHere(m_mainWindow, text, steps, work);
+    m_prompts.SetBusyPointer(false); // before anything is told
+    return outcome;
 }
 
 DefaultPrinter PaperPrinting::FindPrinter()
@@ -64,7 +67,7 @@ void PaperPrinting::Print(const PrintedDocument& document)
         return;
     }
     const Outcome printed =
-        Run(u"Printing on %1..."_s.arg(printer.name), int(document.pages.size()),
+        Run(u"Printing on %1..."_s.arg(printer.name), PageCount(document),
             [&](const PagesDone& done) { return m_printers.Print(document, printer, done); });
     if (!printed.ok) {
         m_prompts.Notice(u"Nothing was printed on %1.\n\n%2"_s.arg(printer.name, printed.reason));
@@ -83,9 +86,11 @@ void PaperPrinting::SaveAsPdf(const PrintedDocument& document, const QPageSize& 
     if (!chosen) {
         return;
     }
+    m_prompts.SetBusyPointer(true);
     const Outcome saved =
-        RunLongWork(m_mainWindow, u"Printing to a PDF file..."_s, int(document.pages.size()),
+        RunLongWork(m_mainWindow, u"Printing to a PDF file..."_s, PageCount(document),
                     [&](const StepsDone& done) { return WritePdf(document, paper, path, done); });
+    m_prompts.SetBusyPointer(false);
     if (!saved.ok) {
         m_prompts.Notice(
             u"The PDF file was not written.\n%1\n\n%2"_s.arg(QDir::toNativeSeparators(path), saved.reason));

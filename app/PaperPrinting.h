@@ -29,7 +29,7 @@ public:
 
 private:
     [[nodiscard]] DefaultPrinter FindPrinter();
-    /// Lets the door work, on a thread of its own if it can.
+    /// Lets the door work under the busy pointer, on a thread of its own if it can.
     Outcome Run(const QString& text, int steps, const std::function<Outcome(const PagesDone&)>& work);
 
     LGLOBAL& m_shared;

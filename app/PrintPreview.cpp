@@ -19,7 +19,7 @@ PrintPreview::PrintPreview(PrintedDocument document, const QPageSize& paper, QWi
     setWindowTitle(u"Print Preview - "_s + m_document.name);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     m_ui->Pages->SetDocument(m_document, m_paper);
-    const int last = int(m_document.pages.size()) - 1;
+    const int last = PageCount(m_document) - 1;
     connect(m_ui->FirstPage, &QPushButton::clicked, this, [this] { TurnTo(0); });
     connect(m_ui->PreviousPage, &QPushButton::clicked, this, [this] { TurnTo(m_page - 1); });
     connect(m_ui->NextPage, &QPushButton::clicked, this, [this] { TurnTo(m_page + 1); });
@@ -60,7 +60,7 @@ void PrintPreview::OnSaveAsPdf(const std::function<void()>& save)
 
 void PrintPreview::TurnTo(int page)
 {
-    const int count = int(m_document.pages.size());
+    const int count = PageCount(m_document);
     m_page = std::clamp(page, 0, std::max(0, count - 1));
     m_ui->Pages->ShowPage(m_page);
     m_ui->PageNumber->setText(u"Page %1 of %2"_s.arg(m_page + 1).arg(count));
@@ -69,6 +69,7 @@ void PrintPreview::TurnTo(int page)
     m_ui->PreviousPage->setEnabled(m_page > 0);
     m_ui->NextPage->setEnabled(m_page < count - 1);
     m_ui->LastPage->setEnabled(m_page < count - 1);
+    ShowZoom(); // a page may lie otherwise than the one before
 }
 
 void PrintPreview::ZoomBy(qreal factor)

@@ -3,6 +3,7 @@
 namespace {
 
 constexpr qint16 kContinueWithPrintout = 1;
+constexpr int kPrintInColor = 2;
 
 } // namespace
 
@@ -24,4 +25,22 @@ void PrintOnRequest(LGLOBAL& shared, Prompts& prompts, const QString& name, cons
     if (shared.questionNumber == kAnsweredYes) {
         prompts.PrintDocument(document());
     }
+}
+
+PrintedDocument ChartDocument(const BarChart& chart)
+{
+    return {.name = chart.title, .pages = {}, .charts = {chart}};
+}
+
+void PrintChartOnRequest(LGLOBAL& shared, Prompts& prompts, const BarChart& chart)
+{
+    BarChart printed = chart;
+    printed.ink = ChartInk::Color;
+    shared.questionNumber = kContinueWithPrintout;
+    prompts.AskToPrint([&] { return ChartDocument(printed); });
+    if (shared.questionNumber != kAnsweredYes) {
+        return;
+    }
+    printed.ink = Ask(shared, prompts, kPrintInColor) ? ChartInk::Color : ChartInk::BlackAndWhite;
+    prompts.PrintDocument(ChartDocument(printed));
 }

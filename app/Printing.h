@@ -17,6 +17,13 @@ using WriteReport = std::function<void(Printout&)>;
 /// @param name  what the print queue and the preview call it
 [[nodiscard]] PrintedDocument MakeDocument(LGLOBAL& shared, const QString& name, const WriteReport& write);
 
+/// A document of one page, which is the chart.
+[[nodiscard]] PrintedDocument ChartDocument(const BarChart& chart);
+
+/// Asks question 1, with a look at the page in color offered beside its answers; after Yes question 2, and
+/// prints the chart as it is on a page of its own: in color after Yes, else in black and white.
+void PrintChartOnRequest(LGLOBAL& shared, Prompts& prompts, const BarChart& chart);
+
 /// Asks question 1, with a look at the pages offered beside its answers, and prints after Yes. What goes
 /// wrong is told to the user; nothing in memory is changed by it.
 void PrintOnRequest(LGLOBAL& shared, Prompts& prompts, const QString& name, const WriteReport& write);

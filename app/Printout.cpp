@@ -40,6 +40,18 @@ QString Printable(QString text)
 
 } // namespace
 
+int PageCount(const PrintedDocument& document)
+{
+    return int(document.pages.size() + document.charts.size());
+}
+
+const BarChart* ChartOnPage(const PrintedDocument& document, int page)
+{
+    const qsizetype chart = page - qsizetype(document.pages.size());
+    return chart >= 0 && chart < qsizetype(document.charts.size()) ? &document.charts[size_t(chart)]
+                                                                   : nullptr;
+}
+
 Printout::Printout(QString name, qint16 printerFont) : m_linesPerPage(kStandardLinesPerPage)
 {
     m_document.name = std::move(name);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/BarChart.h"
+
 #include <QString>
 
 #include <vector>
@@ -24,14 +26,23 @@ enum PrinterFont : qint16 {
     kCourierNewFont = 1, ///< "Courier New", 11 points
 };
 
-/// What goes to paper: pages of text lines. A plain value, so that it can be compared and kept.
+/// What goes to paper: pages of text lines, and charts, each on a whole page in landscape. A plain value, so
+/// that it can be compared and kept.
 struct PrintedDocument {
     QString name; ///< what the print queue and the preview call it
     qint16 printerFont = kStandardFont;
     std::vector<PrintedPage> pages;
+    std::vector<BarChart> charts; ///< the pages that come after those of text
 
     bool operator==(const PrintedDocument&) const = default;
 };
+
+/// How many pages a document has, charts included.
+[[nodiscard]] int PageCount(const PrintedDocument& document);
+
+/// The chart that is a page of the document. @param page  0 for the first
+/// @return nullptr for a page of text, and for a page that the document does not have.
+[[nodiscard]] const BarChart* ChartOnPage(const PrintedDocument& document, int page);
 
 inline constexpr int kPrintColumns = 75; ///< columns that A4 and Letter hold in either font
 inline constexpr int kSheetLines =

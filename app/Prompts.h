@@ -24,8 +24,8 @@ public:
     /// look at the pages before answering. @param pages  makes them when they are wanted
     virtual void AskToPrint(const std::function<PrintedDocument()>& pages) = 0;
 
-    /// Prints on the default printer; where there is none, asks for a PDF file and prints to it. Tells the
-    /// user what went wrong.
+    /// Prints on the default printer under the busy pointer; where there is none, asks for a PDF file and
+    /// prints to it. Tells the user what went wrong.
     virtual void PrintDocument(const PrintedDocument& document) = 0;
 
     /// Asks for a file under fileDialogMode: chosenPath is the answer; after a cancel fileDialogMode is

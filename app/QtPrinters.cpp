@@ -45,9 +45,13 @@ Outcome QtPrinters::Print(const PrintedDocument& document, const DefaultPrinter&
     device.setDocName(document.name);
     device.setFullPage(true);
     device.setPageSize(printer.paper);
+    device.setPageOrientation(OrientationOf(document, 0, printer.paper));
     QPainter painter;
     bool painted = painter.begin(&device);
-    for (int page = 0; painted && page < int(document.pages.size()); ++page) {
+    for (int page = 0; painted && page < PageCount(document); ++page) {
+        if (page > 0) { // it counts from the next page on
+            device.setPageOrientation(OrientationOf(document, page, printer.paper));
+        }
         painted = page == 0 || device.newPage();
         if (painted) {
             PaintOn(device, painter, document, page);

@@ -12,6 +12,8 @@
 #include "database/Extract.h"
 #include "database/InRecNum.h"
 #include "database/LDbase.h"
+#include "database/LGraph.h"
+#include "database/StatisticsChart.h"
 #include "picks/Lottery.h"
 
 #include <QApplication>
@@ -97,6 +99,13 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
         });
         return std::make_unique<PrintPreview>(pages, UsualPaper(shared.locale), &window);
     };
+    const auto graphPreview = [&] {
+        const LotteryShape shape = shared.database.Shape();
+        const NumberTable counts = CountNumbers(shared.database, CountMode::TimesDrawn);
+        const BarChart chart = StatisticsChart(
+            counts, shape.highest, {.records = shared.database.count, .title = shared.database.title});
+        return std::make_unique<PrintPreview>(ChartDocument(chart), UsualPaper(shared.locale), &window);
+    };
     const auto records = [&] { return std::make_unique<InRecNum>(shared, &window); };
     const auto settings = [&] { return std::make_unique<ChangeFnt>(shared, prompts, window, &window); };
     const auto extract = [&] { return std::make_unique<Extract>(shared, prompts, window, &window); };
@@ -104,6 +113,7 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
         {u"AMsgbox"_s, message, {}},
         {u"AllYesNo"_s, question, {}},
         {u"PrintPreview"_s, preview, {}},
+        {u"PrintPreview-graph"_s, graphPreview, {}},
         {u"InRecNum"_s, records, {}},
         {u"InRecNum-insert"_s, records, u"CorInsDel1"_s},
         {u"InRecNum-delete"_s, records, u"CorInsDel2"_s},
@@ -137,7 +147,11 @@ int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const Comm
                   {FormName::LDbase, u"LDbase-help"_s, u"DHelp"_s},
                   {FormName::Lottery, u"Lottery"_s, {}},
                   {FormName::Lottery, u"Lottery-sets"_s, u"CalcAllNum"_s},
-                  {FormName::Lottery, u"Lottery-help"_s, u"PHelp"_s}},
+                  {FormName::Lottery, u"Lottery-help"_s, u"PHelp"_s},
+                  {FormName::LGraph, u"LGraph"_s, {}},
+                  {FormName::LGraph, u"LGraph-sorted"_s, u"ChngView"_s},
+                  {FormName::LGraph, u"LGraph-since"_s, u"GWhichCnt"_s},
+                  {FormName::LGraph, u"LGraph-3d"_s, u"TwoDBut"_s}},
         .dialogs = TourDialogs(shared, prompts, window),
     };
     const Outcome taken = TakePictures(window, tour, line.tourFolder);
@@ -179,6 +193,9 @@ int main(int argc, char* argv[])
     });
     window.AddForm(FormName::Lottery, [&](FormSwitcher& switcher, QWidget* parent) {
         return new Lottery(shared, prompts, switcher, parent);
+    });
+    window.AddForm(FormName::LGraph, [&](FormSwitcher& switcher, QWidget* parent) {
+        return new LGraph(shared, prompts, switcher, parent);
     });
     window.AddDialog(FormName::ChangeFnt, [&](FormSwitcher& switcher, QWidget* mainWindow) {
         ChangeFnt(shared, prompts, switcher, mainWindow).exec();

@@ -2,6 +2,7 @@
 #include "app/MDIContainer.h"
 #include "app/SafeFile.h"
 #include "bench/MadeLottery.h"
+#include "bench/PaintWatch.h"
 #include "database/LDbase.h"
 
 #include <QCoreApplication>
@@ -20,32 +21,6 @@ namespace {
 
 constexpr int kPicks = 6;
 constexpr int kHighest = 49;
-
-/// Notices that a widget was painted.
-class PaintWatch : public QObject
-{
-public:
-    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
-
-    /// Runs events until the widget was painted, and with it all that was due to be painted.
-    void WaitForPaint()
-    {
-        while (!m_painted) {
-            QCoreApplication::processEvents();
-        }
-        QCoreApplication::processEvents();
-        m_painted = false;
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        m_painted = m_painted || event->type() == QEvent::Paint;
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    bool m_painted = false;
-};
 
 /// The program as main.cpp puts it together, with the menu on the screen.
 struct RunningProgram {

@@ -62,6 +62,7 @@ void CannedPrompts::FileDirectory()
 void CannedPrompts::Notice(const QString& text)
 {
     notices << text;
+    onNotice();
 }
 
 void CannedPrompts::SetBusyPointer(bool isBusy)

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <deque>
+#include <functional>
 #include <vector>
 
 /// Prompts that answer from a list and keep what was asked. What was not expected fails the test.
@@ -37,7 +38,8 @@ public:
     std::vector<PrintedDocument> printed;
     std::deque<qint16> fileDialogModes; ///< the modes the file dialog was opened under
     bool busy = false;
-    std::deque<bool> busyChanges; ///< the busy pointer shown and taken away, in order
+    std::function<void()> onNotice = [] {}; ///< runs at each notice
+    std::deque<bool> busyChanges;           ///< the busy pointer shown and taken away, in order
 
 private:
     LGLOBAL& m_shared;

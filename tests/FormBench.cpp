@@ -12,6 +12,9 @@ FormBench::FormBench()
     m_window.AddForm(FormName::Lottery, [this](FormSwitcher& switcher, QWidget* parent) {
         return new Lottery(m_shared, m_prompts, switcher, parent);
     });
+    m_window.AddForm(FormName::LGraph, [this](FormSwitcher& switcher, QWidget* parent) {
+        return new LGraph(m_shared, m_prompts, switcher, parent);
+    });
     m_window.AddDialog(FormName::ChangeFnt, [this](FormSwitcher& switcher, QWidget* mainWindow) {
         ChangeFnt(m_shared, m_prompts, switcher, mainWindow).exec();
     });

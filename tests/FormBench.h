@@ -4,6 +4,7 @@
 #include "app/MDIContainer.h"
 #include "database/Extract.h"
 #include "database/LDbase.h"
+#include "database/LGraph.h"
 #include "picks/Lottery.h"
 #include "tests/CannedPrompts.h"
 #include "tests/ModalWindows.h"

@@ -719,15 +719,17 @@ TEST_F(Editor, CorrectingAndGraphsNeedRecords)
     Click(u"DGraphs"_s);
 }
 
-TEST_F(Editor, WhatComesLaterSaysSo)
+TEST_F(Editor, ShowsTheGraphsAndIsLoadedAnewAfterThem)
 {
     FillDatabase(1);
     OpenEditor();
+    ClickBox(u"WhichCnt"_s);
     Click(u"DGraphs"_s);
-    ASSERT_EQ(m_prompts.notices.size(), 1);
-    EXPECT_TRUE(m_prompts.notices.at(0).startsWith(u"'Show Graphs' is not part of this version yet"_s));
     EXPECT_EQ(m_shared.graphCaller, 2);
+    EXPECT_EQ(m_window.ActiveForm()->objectName(), u"LGraph"_s);
+    Click(u"ExitGrp"_s);
     EXPECT_EQ(m_window.ActiveForm()->objectName(), u"LDbase"_s);
+    EXPECT_TRUE(Find<QCheckBox>(u"WhichCnt"_s).isChecked());
 }
 
 TEST_F(Editor, CommandsThatCannotBeUsedDisappearAndReturn)

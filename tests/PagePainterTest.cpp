@@ -1,5 +1,7 @@
 #include "app/PagePainter.h"
 
+#include "app/Printing.h"
+#include "tests/MadeChart.h"
 #include "tests/PrintedPages.h"
 #include "tests/QtPrinters.h"
 
@@ -26,7 +28,7 @@ constexpr qreal kDots = 144;
 QImage Picture(const PrintedDocument& document, const QPageSize& paper)
 {
     constexpr qreal kScale = kDots / kPageUnitsPerInch;
-    const QSizeF size = PaperSize(paper) * kScale;
+    const QSizeF size = SizeOfPage(document, 0, paper) * kScale;
     QImage image(int(size.width()), int(size.height()), QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
@@ -127,4 +129,64 @@ TEST(PagePainter, ThePdfHasTheSizeOfThePaper)
     ASSERT_TRUE(MakePdf(FullPage(kStandardFont), QPageSize(QPageSize::Letter), pdf).ok);
     const QRegularExpression box(u"/MediaBox \\[0 0 612(\\.0+)? 792(\\.0+)?\\]"_s);
     EXPECT_TRUE(box.match(QString::fromLatin1(pdf)).hasMatch()) << pdf.left(1000).toStdString();
+}
+
+TEST(PagePainter, AChartTakesAWholePageInLandscapeOnEveryPaper)
+{
+    for (const BarStyle style : {BarStyle::Flat, BarStyle::ThreeDimensional}) {
+        const PrintedDocument document = ChartDocument(MadeChart(60, 2001, style));
+        for (const QPageSize::PageSizeId id : {QPageSize::A4, QPageSize::Letter, QPageSize::Legal,
+                                               QPageSize::A3, QPageSize::A5, QPageSize::A6, QPageSize::B5}) {
+            const QPageSize paper(id);
+            SCOPED_TRACE(paper.name().toStdString());
+            EXPECT_EQ(OrientationOf(document, 0, paper), QPageLayout::Landscape);
+            const QImage image = Picture(document, paper);
+            EXPECT_GT(image.width(), image.height());
+            const QRect ink = Ink(image);
+            constexpr int kHalfAnInch = int(kDots / 2);
+            EXPECT_GE(ink.left(), kHalfAnInch - 1);
+            EXPECT_GE(ink.top(), kHalfAnInch - 1);
+            EXPECT_LE(ink.right(), image.width() - kHalfAnInch + 1);
+            EXPECT_LE(ink.bottom(), image.height() - kHalfAnInch + 1);
+            EXPECT_GT(ink.width(), (image.width() - kDots) * 0.9) << "the room is used";
+            EXPECT_GT(ink.height(), (image.height() - kDots) * 0.9);
+        }
+    }
+}
+
+TEST(PagePainter, PaperThatIsWiderThanHighIsNotTurnedForAChart)
+{
+    const QPageSize wide(QSizeF(11, 8), QPageSize::Inch);
+    const PrintedDocument document = ChartDocument(MadeChart(10, 9));
+    EXPECT_EQ(OrientationOf(document, 0, wide), QPageLayout::Portrait);
+    EXPECT_EQ(SizeOfPage(document, 0, wide), QSizeF(11 * 720, 8 * 720));
+}
+
+TEST(PagePainter, APdfOfTextAndChartsTurnsThePagesOfTheCharts)
+{
+    PrintedDocument document = FullPage(kStandardFont);
+    document.charts = {MadeChart(10, 9), MadeChart(49, 175)};
+    QByteArray pdf;
+    QList<int> told;
+    ASSERT_TRUE(MakePdf(document, QPageSize(QPageSize::Letter), pdf, [&](int pages) { told << pages; }).ok);
+    EXPECT_EQ(told, (QList<int>{1, 2, 3}));
+    const QRegularExpression box(u"/MediaBox \\[0 0 ([0-9]+)(\\.0+)? ([0-9]+)(\\.0+)?\\]"_s);
+    QStringList sizes;
+    for (auto found = box.globalMatch(QString::fromLatin1(pdf)); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        sizes << match.captured(1) + u'x' + match.captured(3);
+    }
+    EXPECT_EQ(sizes, (QStringList{u"612x792"_s, u"792x612"_s, u"792x612"_s}));
+}
+
+TEST(PagePainter, AChartIsDrawnInThePdfAndNotPutThereAsAPicture)
+{
+    for (const ChartInk ink : {ChartInk::Color, ChartInk::BlackAndWhite}) {
+        BarChart chart = MadeChart(60, 2001, BarStyle::ThreeDimensional);
+        chart.ink = ink;
+        QByteArray pdf;
+        ASSERT_TRUE(MakePdf(ChartDocument(chart), QPageSize(QPageSize::A4), pdf).ok);
+        EXPECT_FALSE(pdf.contains("/Subtype /Image"));
+        EXPECT_FALSE(pdf.contains("/PaintType 2")) << "no hatch brush";
+    }
 }

@@ -5,6 +5,7 @@
 #include "app/PrintPreview.h"
 #include "app/Printing.h"
 #include "tests/CannedPrompts.h"
+#include "tests/MadeChart.h"
 #include "tests/ModalWindows.h"
 #include "tests/QtPrinters.h"
 #include "tests/TestFiles.h"
@@ -35,6 +36,7 @@ public:
     std::vector<PrintedDocument> printed;
     bool anyThread = true;
     QThread* thread = nullptr; ///< the one it printed on
+    std::function<void()> onPrint = [] {};
 
     [[nodiscard]] bool WorksOnAnyThread() const override { return anyThread; }
     [[nodiscard]] DefaultPrinter Default() override { return printer; }
@@ -44,6 +46,7 @@ public:
         EXPECT_EQ(on.name, printer.name);
         printed.push_back(document);
         thread = QThread::currentThread();
+        onPrint();
         pagesDone(1);
         return outcome;
     }
@@ -88,6 +91,28 @@ TEST_F(PaperPrintingTest, ADoorThatNeedsTheThreadOfTheWindowsGetsIt)
     m_printing.Print(Pages(2));
     EXPECT_EQ(m_printers.thread, QThread::currentThread());
     EXPECT_EQ(m_printers.printed.size(), 2U);
+}
+
+TEST_F(PaperPrintingTest, ThePointerIsBusyWhilePrintingAndNotWhileAnythingIsTold)
+{
+    m_printers.anyThread = false; // so that the door can look at it
+    m_printers.onPrint = [this] { EXPECT_TRUE(m_prompts.busy); };
+    m_printing.Print(Pages(2));
+    EXPECT_EQ(m_printers.printed.size(), 1U);
+    EXPECT_FALSE(m_prompts.busy);
+    m_printers.outcome = Outcome::Failure(u"No space left on device"_s);
+    m_prompts.onNotice = [this] { EXPECT_FALSE(m_prompts.busy); };
+    m_printing.Print(Pages(2));
+    EXPECT_EQ(m_prompts.notices.size(), 1);
+    EXPECT_FALSE(m_prompts.busy);
+}
+
+TEST_F(PaperPrintingTest, ThePointerIsBusyWhileAPdfFileIsWritten)
+{
+    m_prompts.files = {m_folder.filePath(u"out.pdf"_s)};
+    m_printing.SaveAsPdf(ChartDocument(MadeChart(49, 175)), QPageSize(QPageSize::A4));
+    EXPECT_EQ(m_prompts.busyChanges, (std::deque<bool>{true, false}));
+    EXPECT_TRUE(BytesOf(m_folder.filePath(u"out.pdf"_s)).startsWith("%PDF-"));
 }
 
 TEST_F(PaperPrintingTest, AFailureIsToldWithThePrinterAndTheSystemsReason)
@@ -226,6 +251,39 @@ TEST_F(PrintQuestion, OnlyAPrintoutOffersAPreview)
     });
 }
 
+TEST_F(PrintQuestion, AChartIsPrintedInTheInkOfTheSecondAnswer)
+{
+    for (const bool color : {true, false}) {
+        QStringList asked;
+        WhenModalOpens([&](QWidget* first) {
+            asked << first->findChild<QLabel*>(u"Label1"_s)->text();
+            WhenModalOpensOver(first, [&](QWidget* second) {
+                asked << second->findChild<QLabel*>(u"Label1"_s)->text();
+                EXPECT_FALSE(second->findChild<QPushButton*>(u"PreviewButt"_s)->isVisible());
+                Press(second, color ? u"AllYes"_s : u"AllNo"_s);
+            });
+            Press(first, u"AllYes"_s);
+        });
+        m_printers.printed.clear();
+        PrintChartOnRequest(m_shared, m_prompts, MadeChart(49, 175));
+        EXPECT_EQ(asked, (QStringList{u" Continue with Printout."_s, u" Print in Color."_s}));
+        ASSERT_EQ(m_printers.printed.size(), 1U);
+        EXPECT_EQ(m_printers.printed[0].charts.at(0).ink, color ? ChartInk::Color : ChartInk::BlackAndWhite);
+    }
+}
+
+TEST_F(PrintQuestion, TheHourglassIsShownWhilePrinting)
+{
+    m_printers.anyThread = false;
+    m_printers.onPrint = [] {
+        ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    };
+    Request([](QWidget* question) { Press(question, u"AllYes"_s); });
+    EXPECT_EQ(m_printers.printed.size(), 1U);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
 TEST_F(PrintQuestion, ThePreviewShowsThePagesOnThePrintersPaperAndTheQuestionStaysOpen)
 {
     bool seen = false;
@@ -348,6 +406,32 @@ TEST_F(PrintPreviewTest, ThePageFollowsTheWindow)
     const int small = View().height();
     m_preview->resize(1100, 760);
     EXPECT_GT(View().height(), small);
+}
+
+TEST_F(PrintPreviewTest, AChartLiesInLandscapeAndHasTheWholePage)
+{
+    PrintedDocument document = Pages(1);
+    document.charts = {MadeChart(49, 175)};
+    m_preview = std::make_unique<PrintPreview>(document, QPageSize(QPageSize::A4), nullptr);
+    m_preview->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(m_preview.get()));
+    EXPECT_EQ(Number(), u"Page 1 of 2"_s);
+    EXPECT_LT(View().width(), View().height());
+    Press(u"NextPage"_s);
+    EXPECT_EQ(Number(), u"Page 2 of 2"_s);
+    EXPECT_GT(View().width(), View().height());
+    const auto* area = m_preview->findChild<QScrollArea*>(u"ScrollArea"_s);
+    EXPECT_LE(View().width(), area->viewport()->width()) << "the whole page is in sight";
+    EXPECT_LE(View().height(), area->viewport()->height());
+    const QImage shown = Shown();
+    int blue = 0;
+    for (int x = 0; x < shown.width(); ++x) {
+        const QColor color = shown.pixelColor(x, shown.height() * 3 / 4);
+        blue += color.blue() > color.red() + 60 ? 1 : 0;
+    }
+    EXPECT_GT(blue, shown.width() / 4) << "the bars";
+    Press(u"PreviousPage"_s);
+    EXPECT_LT(View().width(), View().height());
 }
 
 TEST_F(PrintPreviewTest, ThePageIsWhiteUnderADarkPalette)

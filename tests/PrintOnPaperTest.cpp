@@ -5,14 +5,18 @@
 #include "app/PrinterDoor.h"
 #include "app/Printing.h"
 #include "app/QtPrinters.h"
+#include "tests/MadeChart.h"
 #include "tests/ModalWindows.h"
 #include "tests/PrintScheduler.h"
 #include "tests/PrintedPages.h"
 #include "tests/QtPrinters.h"
 
+#include <QImage>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+
+#include <set>
 
 using namespace Qt::StringLiterals;
 
@@ -330,6 +334,130 @@ TEST_F(PrintOnPaper, TheToolkitsWayPutsTheSameWordsOnPaper)
     EXPECT_TRUE(printed.ok) << printed.reason.toStdString();
     EXPECT_EQ(pages, 2);
     ExpectOnPaper(document, m_scheduler.PrintedPages(u"q"_s), kLetter.size);
+}
+
+namespace {
+
+/// Numbers of the printed words, each as often as it stands there.
+std::multiset<QString> NumbersIn(const QString& text)
+{
+    std::multiset<QString> numbers;
+    const QRegularExpression number(u"[0-9]+"_s);
+    for (auto found = number.globalMatch(text); found.hasNext();) {
+        numbers.insert(found.next().captured());
+    }
+    return numbers;
+}
+
+/// What a page looks like, 100 dots to the inch.
+QImage PictureOf(PrintScheduler& scheduler, const QString& pdf)
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(u"page"_s);
+    scheduler.Run(u"pdftoppm"_s, {u"-r"_s, u"100"_s, u"-singlefile"_s, u"-png"_s, pdf, name});
+    return QImage(name + u".png"_s);
+}
+
+int ColoredDots(const QImage& image)
+{
+    int colored = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor dot = image.pixelColor(x, y);
+            colored += dot.red() != dot.green() || dot.red() != dot.blue() ? 1 : 0;
+        }
+    }
+    return colored;
+}
+
+/// The chart lies along the sheet and has all of it but half an inch at each edge: its axis, from the first
+/// number to the last, is nearly as long as the sheet.
+void ExpectTurned(const PaperPage& page)
+{
+    const auto find = [&page](const QString& text) {
+        const auto found = std::ranges::find(page.words, text, &PaperWord::text);
+        EXPECT_NE(found, page.words.end()) << text.toStdString();
+        return *found;
+    };
+    const PaperWord first = find(u"No."_s);
+    const PaperWord last = find(u"Lottery"_s);
+    EXPECT_NEAR(first.x, last.x, 1) << "the words of the title follow each other along the sheet";
+    EXPECT_GT(std::abs(first.y - last.y), 100);
+    const auto [left, right] = std::ranges::minmax(page.words, {}, &PaperWord::x);
+    const auto [top, bottom] = std::ranges::minmax(page.words, {}, &PaperWord::y);
+    EXPECT_GT(right.x - left.x, page.size.width() - 72 - 30);
+    EXPECT_GT(bottom.y - top.y, page.size.height() - 72 - 60);
+    for (const PaperWord& word : page.words) {
+        EXPECT_GT(std::min({word.x, word.y, page.size.width() - word.x, page.size.height() - word.y}), 30)
+            << word.text.toStdString() << " is too near the edge";
+    }
+}
+
+void ExpectChartOnPaper(PrintScheduler& scheduler, const QString& pdf, const BarChart& chart)
+{
+    const QString text = scheduler.Run(u"pdftotext"_s, {u"-raw"_s, pdf, u"-"_s});
+    EXPECT_TRUE(text.simplified().contains(chart.title)) << text.toStdString();
+    std::multiset<QString> printed = NumbersIn(text);
+    for (const ChartBar& bar : chart.bars) {
+        for (const QString& number : {bar.label, QString::number(bar.value)}) {
+            const auto found = printed.find(number);
+            ASSERT_NE(found, printed.end()) << number.toStdString() << " is missing in\n"
+                                            << text.toStdString();
+            printed.erase(found);
+        }
+    }
+    const QString pictures = scheduler.Run(u"pdfimages"_s, {u"-list"_s, pdf});
+    EXPECT_EQ(pictures.split(u'\n', Qt::SkipEmptyParts).size(), 2) << pictures.toStdString();
+    const QImage page = PictureOf(scheduler, pdf);
+    EXPECT_EQ(ColoredDots(page) > 10'000, chart.ink == ChartInk::Color);
+    if (chart.ink == ChartInk::BlackAndWhite) {
+        EXPECT_EQ(ColoredDots(page), 0);
+    }
+}
+
+} // namespace
+
+TEST_F(PrintOnPaper, AChartComesOutAsLinesAndTextOnAWholePageInLandscape)
+{
+    for (const PaperCase& paper : {kA4, kLetter}) {
+        m_scheduler.AddQueue(paper.paper, paper.paper);
+        m_scheduler.MakeDefault(paper.paper);
+        for (const BarStyle style : {BarStyle::Flat, BarStyle::ThreeDimensional}) {
+            for (const ChartInk ink : {ChartInk::Color, ChartInk::BlackAndWhite}) {
+                SCOPED_TRACE(paper.paper.toStdString() + (style == BarStyle::Flat ? ", flat" : ", blocks") +
+                             (ink == ChartInk::Color ? ", color" : ", black and white"));
+                BarChart chart = MadeChart(60, 2001, style);
+                chart.ink = ink;
+                const Outcome printed = Print(ChartDocument(chart));
+                EXPECT_TRUE(printed.ok) << printed.reason.toStdString();
+                const std::vector<PaperPage> pages = m_scheduler.PrintedPages(paper.paper);
+                ASSERT_EQ(pages.size(), 1U);
+                EXPECT_NEAR(pages[0].size.width(), paper.size.width(), 0.5) << "the sheet is as it is fed";
+                EXPECT_NEAR(pages[0].size.height(), paper.size.height(), 0.5);
+                ExpectTurned(pages[0]);
+                ExpectChartOnPaper(m_scheduler, m_scheduler.Printed(paper.paper), chart);
+            }
+        }
+    }
+}
+
+TEST_F(PrintOnPaper, TheToolkitsWayPrintsAChartInLandscapeToo)
+{
+    m_scheduler.AddQueue(u"q"_s, u"A4"_s);
+    m_scheduler.MakeDefault(u"q"_s);
+    QtPrinters door;
+    const DefaultPrinter printer = door.Default();
+    if (!printer.Exists()) {
+        GTEST_SKIP() << "the toolkit has no way to CUPS on this machine: " << printer.reason.toStdString();
+    }
+    BarChart chart = MadeChart(49, 175);
+    chart.ink = ChartInk::BlackAndWhite;
+    const Outcome printed = door.Print(ChartDocument(chart), printer, [](int) {});
+    EXPECT_TRUE(printed.ok) << printed.reason.toStdString();
+    const std::vector<PaperPage> pages = m_scheduler.PrintedPages(u"q"_s);
+    ASSERT_EQ(pages.size(), 1U);
+    ExpectTurned(pages[0]);
+    ExpectChartOnPaper(m_scheduler, m_scheduler.Printed(u"q"_s), chart);
 }
 
 TEST(PrintOnAFullDisk, TheReasonIsToldAndNoJobIsLeft)

@@ -62,7 +62,8 @@ std::vector<PaperPage> ReadWords(const QByteArray& boxes)
 
 PrintScheduler::PrintScheduler(const QString& spool)
 {
-    for (const QString& tool : {u"lpadmin"_s, u"lpstat"_s, u"pdftotext"_s, u"pdffonts"_s}) {
+    for (const QString& tool :
+         {u"lpadmin"_s, u"lpstat"_s, u"pdftotext"_s, u"pdffonts"_s, u"pdfimages"_s, u"pdftoppm"_s}) {
         if (QStandardPaths::findExecutable(tool).isEmpty() &&
             QStandardPaths::findExecutable(tool, {u"/usr/sbin"_s, u"/sbin"_s}).isEmpty()) {
             m_whyNot = u"there is no "_s + tool + u" on this machine"_s;

@@ -171,3 +171,21 @@ TEST(Printout, FinishingPrintsTheLineThatIsStillOpen)
     printout.FinishPrinting();
     EXPECT_EQ(PageLines(printout.Document(), 1), (QStringList{{}, u"open"_s}));
 }
+
+TEST(Printout, ChartsAreThePagesAfterThoseOfText)
+{
+    Printout printout = Prepared();
+    printout.FinishPrinting();
+    PrintedDocument document = printout.Document();
+    EXPECT_EQ(PageCount(document), 1);
+    document.charts = {{.title = u"one"_s}, {.title = u"two"_s}};
+    EXPECT_EQ(PageCount(document), 3);
+    EXPECT_EQ(ChartOnPage(document, 0), nullptr);
+    ASSERT_NE(ChartOnPage(document, 1), nullptr);
+    EXPECT_EQ(ChartOnPage(document, 1)->title, u"one"_s);
+    ASSERT_NE(ChartOnPage(document, 2), nullptr);
+    EXPECT_EQ(ChartOnPage(document, 2)->title, u"two"_s);
+    EXPECT_EQ(ChartOnPage(document, 3), nullptr);
+    EXPECT_EQ(ChartOnPage(document, -1), nullptr);
+    EXPECT_FALSE(document == printout.Document());
+}
