@@ -14,6 +14,7 @@
 #include "database/LDbase.h"
 #include "database/LGraph.h"
 #include "database/StatisticsChart.h"
+#include "hotcold/LHotCold.h"
 #include "picks/Lottery.h"
 
 #include <QApplication>
@@ -148,6 +149,9 @@ int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const Comm
                   {FormName::Lottery, u"Lottery"_s, {}},
                   {FormName::Lottery, u"Lottery-sets"_s, u"CalcAllNum"_s},
                   {FormName::Lottery, u"Lottery-help"_s, u"PHelp"_s},
+                  {FormName::LHotCold, u"LHotCold"_s, {}},
+                  {FormName::LHotCold, u"LHotCold-sets"_s, u"CalcHCD"_s},
+                  {FormName::LHotCold, u"LHotCold-help"_s, u"HelpHCD"_s},
                   {FormName::LGraph, u"LGraph"_s, {}},
                   {FormName::LGraph, u"LGraph-sorted"_s, u"ChngView"_s},
                   {FormName::LGraph, u"LGraph-since"_s, u"GWhichCnt"_s},
@@ -190,6 +194,9 @@ int main(int argc, char* argv[])
     }
     window.AddForm(FormName::LDbase, [&](FormSwitcher& switcher, QWidget* parent) {
         return new LDbase(shared, prompts, switcher, parent);
+    });
+    window.AddForm(FormName::LHotCold, [&](FormSwitcher& switcher, QWidget* parent) {
+        return new LHotCold(shared, prompts, switcher, parent);
     });
     window.AddForm(FormName::Lottery, [&](FormSwitcher& switcher, QWidget* parent) {
         return new Lottery(shared, prompts, switcher, parent);

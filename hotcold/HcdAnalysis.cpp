@@ -1,7 +1,12 @@
 #include "hotcold/HcdAnalysis.h"
 
 #include <algorithm>
-#include <cstddef>
+
+int FirstPeriod(int records)
+{
+    constexpr int kWeeksOfAYear = 52;
+    return std::min(records, kWeeksOfAYear);
+}
 
 void TallyLastDraws(HcdAnalysis& analysis, const DrawDatabase& database, int lastDraws)
 {
@@ -22,7 +27,7 @@ void RankNumbers(HcdAnalysis& analysis, int highest, HcdList list)
     const auto* const end =
         std::find_if(first, ranked.cend(), [](const NumberCount& count) { return count.value == 0; });
     analysis.distinctNumbers = static_cast<int>(end - first);
-    if (HasTooFewNumbers(analysis)) {
+    if (list == HcdList::None || HasTooFewNumbers(analysis)) {
         return;
     }
     if (list == HcdList::Cold) {

@@ -51,13 +51,31 @@ HcdCounts DefaultHcdCounts(int picks)
     return kCounts.at(Index(std::clamp(picks, 1, kMostPicks) - 1));
 }
 
-bool FillHcdSets(RandomSource& random, const HcdCandidateTable& candidates, const HcdCounts& counts, int sets,
-                 SetTable& table)
+HcdCounts TypedCounts(double hot, double cold, double due)
 {
-    return FillFromList(random, candidates, HcdList::Hot, 1, counts.hot, sets, table) &&
-           FillFromList(random, candidates, HcdList::Cold, 1 + counts.hot, counts.cold, sets, table) &&
-           FillFromList(random, candidates, HcdList::Due, 1 + counts.hot + counts.cold, counts.due, sets,
-                        table);
+    const auto held = [](double typed) {
+        constexpr double kMoreThanAnyDraw = 100;
+        return static_cast<int>(std::clamp(typed, 0.0, kMoreThanAnyDraw));
+    };
+    return {.hot = held(hot), .cold = held(cold), .due = held(due)};
+}
+
+int GameSets(double typed, int entryForms)
+{
+    constexpr int kMostGameSets = 10;
+    const double sets = typed > kMostGameSets ? entryForms : typed;
+    return static_cast<int>(std::clamp(sets, 0.0, double{kMostGameSets}));
+}
+
+bool FillHcdSets(RandomSource& random, const HcdBasis& basis, int sets, SetTable& table)
+{
+    table = {};
+    const auto& [hot, cold, due] = basis.counts;
+    const auto fill = [&](HcdList list, int first, int count) {
+        return FillFromList(random, basis.candidates, list, first, count, sets, table);
+    };
+    return fill(HcdList::Hot, 1, hot) && fill(HcdList::Cold, 1 + hot, cold) &&
+           fill(HcdList::Due, 1 + hot + cold, due);
 }
 
 void MoveEmptyPlacesToTheEnd(SetTable& table, int picks, int sets)

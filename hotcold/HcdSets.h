@@ -19,20 +19,31 @@ struct HcdCounts {
 /// @param picks  1..10; others are held to that range
 [[nodiscard]] HcdCounts DefaultHcdCounts(int picks);
 
+/// The counts as they are typed, whatever that is; each is held to 0..100, so that the total is true.
+[[nodiscard]] HcdCounts TypedCounts(double hot, double cold, double due);
+
+/// How many sets are made: as many as typed, or as the personal settings say when that is more than ten.
+/// @return 0..10
+[[nodiscard]] int GameSets(double typed, int entryForms);
+
+/// What sets were made from.
+struct HcdBasis {
+    int lastDraws = 0; ///< draws that hot and cold numbers were counted over
+    HcdCounts counts;  ///< of each list, for every set
+    HcdCandidateTable candidates{};
+};
+
 /// Rejected draws of one list that end the making of sets.
 inline constexpr int kMostHcdRejections = 5000;
 
-/// Fills sets 1..sets: first the hot numbers of every set, then the cold and the due ones. A number that its
-/// set holds already, also one of another list, is rejected and drawn anew.
+/// Makes sets 1..sets anew, the others are empty: first the hot numbers of every set, then the cold and the
+/// due ones. A number that its set holds already, also one of another list, is rejected and drawn anew.
 ///
-/// @param counts  together at most 10
-/// @param sets    0..10
-/// @param table   where the places to be filled are empty
+/// @param basis  its counts are together at most 10
+/// @param sets   0..10
 /// @return false when kMostHcdRejections draws of one list were rejected, counted over all sets; the table
-/// then
-///         holds what was drawn so far.
-[[nodiscard]] bool FillHcdSets(RandomSource& random, const HcdCandidateTable& candidates,
-                               const HcdCounts& counts, int sets, SetTable& table);
+///         then holds what was drawn so far.
+[[nodiscard]] bool FillHcdSets(RandomSource& random, const HcdBasis& basis, int sets, SetTable& table);
 
 /// Moves the empty places of each set behind its numbers, whose order stays.
 ///

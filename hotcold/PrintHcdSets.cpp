@@ -26,17 +26,16 @@ void PrintList(Printout& printout, const QString& name, int count, HcdList list,
 
 } // namespace
 
-void PrintHcdSets(Printout& printout, int lastDraws, const HcdCounts& counts,
-                  const HcdCandidateTable& candidates, const SetTable& table, int picks, int sets)
+void PrintHcdSets(Printout& printout, const HcdBasis& basis, const SetTable& table, int picks, int sets)
 {
     constexpr int kColumnStep = 5;
     const QString underline(qsizetype{kColumnStep} * picks, u'_');
     printout.PrintEmptyLines(2);
-    printout.PrintLine(u"Picked from: Last "_s + Format(lastDraws, u"####") + u" Draws"_s);
+    printout.PrintLine(u"Picked from: Last "_s + Format(basis.lastDraws, u"####") + u" Draws"_s);
     printout.PrintEmptyLines();
-    PrintList(printout, u"Hot"_s, counts.hot, HcdList::Hot, candidates);
-    PrintList(printout, u"Cold"_s, counts.cold, HcdList::Cold, candidates);
-    PrintList(printout, u"Due"_s, counts.due, HcdList::Due, candidates);
+    PrintList(printout, u"Hot"_s, basis.counts.hot, HcdList::Hot, basis.candidates);
+    PrintList(printout, u"Cold"_s, basis.counts.cold, HcdList::Cold, basis.candidates);
+    PrintList(printout, u"Due"_s, basis.counts.due, HcdList::Due, basis.candidates);
     printout.PrintEmptyLines();
     printout.PrintLine(underline);
     for (int row = 1; row <= sets; ++row) {

@@ -9,6 +9,9 @@ FormBench::FormBench()
     m_window.AddForm(FormName::LDbase, [this](FormSwitcher& switcher, QWidget* parent) {
         return new LDbase(m_shared, m_prompts, switcher, parent);
     });
+    m_window.AddForm(FormName::LHotCold, [this](FormSwitcher& switcher, QWidget* parent) {
+        return new LHotCold(m_shared, m_prompts, switcher, parent);
+    });
     m_window.AddForm(FormName::Lottery, [this](FormSwitcher& switcher, QWidget* parent) {
         return new Lottery(m_shared, m_prompts, switcher, parent);
     });

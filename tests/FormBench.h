@@ -5,6 +5,7 @@
 #include "database/Extract.h"
 #include "database/LDbase.h"
 #include "database/LGraph.h"
+#include "hotcold/LHotCold.h"
 #include "picks/Lottery.h"
 #include "tests/CannedPrompts.h"
 #include "tests/ModalWindows.h"

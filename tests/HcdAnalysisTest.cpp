@@ -153,6 +153,46 @@ TEST(HcdAnalysis, TheLatestDrawIsZeroDrawsAgoAndANumberNeverDrawnAllDraws)
     EXPECT_EQ(ValuesOf(analysis.NumberTally, 4), (Counts{{1, 1}, {2, 2}, {3, 0}, {4, 4}}));
 }
 
+TEST(HcdAnalysis, WhatStandsBeforeTheFirstRecordIsNoDraw)
+{
+    DrawDatabase database = Database(12, {{1}, {2}, {3}});
+    DrawDatabase without = database;
+    without.records.front() = {};
+    database.records.front().drawn.front() = 9;
+    for (const bool since : {true, false}) {
+        HcdAnalysis analysis;
+        HcdAnalysis expected;
+        if (since) {
+            TallyDrawsSince(analysis, database);
+            TallyDrawsSince(expected, without);
+        } else {
+            TallyLastDraws(analysis, database, 3);
+            TallyLastDraws(expected, without, 3);
+        }
+        EXPECT_EQ(ValuesOf(analysis.NumberTally, 12), ValuesOf(expected.NumberTally, 12));
+    }
+}
+
+TEST(HcdAnalysis, ThePeriodIsFirstAYearOfWeeklyDraws)
+{
+    EXPECT_EQ(FirstPeriod(10), 10);
+    EXPECT_EQ(FirstPeriod(51), 51);
+    EXPECT_EQ(FirstPeriod(52), 52);
+    EXPECT_EQ(FirstPeriod(53), 52);
+    EXPECT_EQ(FirstPeriod(2001), 52);
+}
+
+TEST(HcdAnalysis, WithoutAListTheNumbersAreRankedAllTheSame)
+{
+    const DrawDatabase database = StairsOf12();
+    HcdAnalysis analysis;
+    TallyLastDraws(analysis, database, database.count);
+    RankNumbers(analysis, 12, HcdList::None);
+    EXPECT_EQ(analysis.RankedNumbers.at(1).label, 12);
+    EXPECT_EQ(analysis.distinctNumbers, 11);
+    EXPECT_EQ(analysis.HcdCandidates, HcdCandidateTable{});
+}
+
 TEST(HcdAnalysis, TheHotListHoldsTheTenMostFrequentNumbers)
 {
     const DrawDatabase database = StairsOf12();

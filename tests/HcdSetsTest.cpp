@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
 #include <set>
 #include <vector>
 
@@ -26,6 +27,11 @@ HcdCandidateTable ThirtyCandidates()
         candidates.at(static_cast<std::size_t>(row)) = {row, 1};
     }
     return candidates;
+}
+
+HcdBasis Basis(const HcdCandidateTable& candidates, const HcdCounts& counts)
+{
+    return {.lastDraws = 52, .counts = counts, .candidates = candidates};
 }
 
 RandomGenerator Generator()
@@ -53,7 +59,7 @@ TEST(HcdSets, HotColdAndDueNumbersStandBesideEachOther)
     // All hot numbers of both sets first, then the cold, then the due ones.
     FixedSource source(ValuesFor({1, 2, 3, 4, 5, 6, 7}, 10));
     SetTable table{};
-    EXPECT_TRUE(FillHcdSets(source, ThirtyCandidates(), {.hot = 2, .cold = 1, .due = 0}, 2, table));
+    EXPECT_TRUE(FillHcdSets(source, Basis(ThirtyCandidates(), {.hot = 2, .cold = 1, .due = 0}), 2, table));
     EXPECT_EQ(SetOf(table, 1), (Set{1, 2, 15, 0, 0, 0, 0, 0, 0, 0}));
     EXPECT_EQ(SetOf(table, 2), (Set{3, 4, 16, 0, 0, 0, 0, 0, 0, 0}));
     EXPECT_EQ(SetOf(table, 3), Set(10, 0));
@@ -63,7 +69,7 @@ TEST(HcdSets, AListThatGivesNoNumberIsSkipped)
 {
     FixedSource source(ValuesFor({1, 2}, 10));
     SetTable table{};
-    EXPECT_TRUE(FillHcdSets(source, ThirtyCandidates(), {.hot = 0, .cold = 0, .due = 2}, 1, table));
+    EXPECT_TRUE(FillHcdSets(source, Basis(ThirtyCandidates(), {.hot = 0, .cold = 0, .due = 2}), 1, table));
     EXPECT_EQ(SetOf(table, 1), (Set{21, 22, 0, 0, 0, 0, 0, 0, 0, 0}));
     EXPECT_EQ(source.draws, 2U);
 }
@@ -72,7 +78,7 @@ TEST(HcdSets, ANumberThatTheSetHoldsIsDrawnAnewForTheSamePlace)
 {
     FixedSource source(ValuesFor({4, 4, 4, 7}, 10));
     SetTable table{};
-    EXPECT_TRUE(FillHcdSets(source, ThirtyCandidates(), {.hot = 2, .cold = 0, .due = 0}, 1, table));
+    EXPECT_TRUE(FillHcdSets(source, Basis(ThirtyCandidates(), {.hot = 2, .cold = 0, .due = 0}), 1, table));
     EXPECT_EQ(SetOf(table, 1), (Set{4, 7, 0, 0, 0, 0, 0, 0, 0, 0}));
     EXPECT_EQ(source.draws, 4U);
 }
@@ -86,7 +92,7 @@ TEST(HcdSets, ANumberInTwoListsNeverStandsTwiceInASet)
     RandomGenerator random = Generator();
     for (int round = 0; round < 200; ++round) {
         SetTable table{};
-        ASSERT_TRUE(FillHcdSets(random, candidates, {.hot = 5, .cold = 0, .due = 5}, 10, table));
+        ASSERT_TRUE(FillHcdSets(random, Basis(candidates, {.hot = 5, .cold = 0, .due = 5}), 10, table));
         for (int row = 1; row <= 10; ++row) {
             const Set numbers = SetOf(table, row);
             EXPECT_EQ(std::set<int>(numbers.begin(), numbers.end()).size(), 10U);
@@ -98,7 +104,7 @@ TEST(HcdSets, TheSourceIsReseededBeforeEveryDraw)
 {
     FixedSource source(ValuesFor({1, 1, 2, 3}, 10));
     SetTable table{};
-    EXPECT_TRUE(FillHcdSets(source, ThirtyCandidates(), {.hot = 3, .cold = 0, .due = 0}, 1, table));
+    EXPECT_TRUE(FillHcdSets(source, Basis(ThirtyCandidates(), {.hot = 3, .cold = 0, .due = 0}), 1, table));
     EXPECT_EQ(source.reseeds, source.draws);
 }
 
@@ -106,7 +112,7 @@ TEST(HcdSets, FiveThousandRejectionsOfOneListEndTheRun)
 {
     FixedSource always(ValuesFor({3}, 10));
     SetTable table{};
-    EXPECT_FALSE(FillHcdSets(always, ThirtyCandidates(), {.hot = 2, .cold = 1, .due = 0}, 1, table));
+    EXPECT_FALSE(FillHcdSets(always, Basis(ThirtyCandidates(), {.hot = 2, .cold = 1, .due = 0}), 1, table));
     EXPECT_EQ(SetOf(table, 1), (Set{3, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
     EXPECT_EQ(always.draws, 5001U);
 }
@@ -124,19 +130,101 @@ TEST(HcdSets, RejectionsAreCountedForEachListOverAllSets)
     }
     FixedSource source(ValuesFor(indexes, 10));
     SetTable table{};
-    EXPECT_TRUE(FillHcdSets(source, ThirtyCandidates(), {.hot = 2, .cold = 2, .due = 0}, 2, table));
+    EXPECT_TRUE(FillHcdSets(source, Basis(ThirtyCandidates(), {.hot = 2, .cold = 2, .due = 0}), 2, table));
     // One more in the first set is the five-thousandth but one, two more end it.
     indexes.insert(indexes.begin(), 2, 1);
     FixedSource more(ValuesFor(indexes, 10));
     SetTable stopped{};
-    EXPECT_FALSE(FillHcdSets(more, ThirtyCandidates(), {.hot = 2, .cold = 2, .due = 0}, 2, stopped));
+    EXPECT_FALSE(FillHcdSets(more, Basis(ThirtyCandidates(), {.hot = 2, .cold = 2, .due = 0}), 2, stopped));
+}
+
+TEST(HcdSets, SetsAreMadeAnew)
+{
+    FixedSource source(ValuesFor({1, 2}, 10));
+    SetTable table{};
+    for (auto& set : table) {
+        set.fill(1);
+    }
+    EXPECT_TRUE(FillHcdSets(source, Basis(ThirtyCandidates(), {.hot = 1, .cold = 0, .due = 0}), 2, table));
+    EXPECT_EQ(SetOf(table, 1), (Set{1, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(SetOf(table, 2), (Set{2, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(SetOf(table, 3), Set(10, 0));
+}
+
+TEST(HcdSets, EqualsAPlainSecondImplementation)
+{
+    // Positions filled one after the other by the description, list by list and set by set.
+    std::mt19937 dice(20261121);
+    const auto throwDie = [&dice](int faces) { return std::uniform_int_distribution<int>(1, faces)(dice); };
+    for (int round = 0; round < 300; ++round) {
+        SCOPED_TRACE(round);
+        HcdCandidateTable candidates{};
+        for (std::size_t row = 1; row <= 30; ++row) { // few numbers, so that many are in two lists
+            candidates.at(row).label = static_cast<qint16>((throwDie(18) + static_cast<int>(row)) % 18);
+        }
+        const HcdCounts counts{.hot = throwDie(4) - 1, .cold = throwDie(4) - 1, .due = throwDie(5) - 1};
+        const int sets = throwDie(10);
+        std::vector<int> indexes(997);
+        std::generate(indexes.begin(), indexes.end(), [&] { return throwDie(10); });
+
+        std::size_t next = 0;
+        std::vector<std::vector<int>> plain(static_cast<std::size_t>(sets), std::vector<int>(10, 0));
+        bool made = true;
+        const int ofList[] = {counts.hot, counts.cold, counts.due};
+        int before = 0;
+        for (int list = 0; list < 3 && made; before += ofList[list], ++list) {
+            int retries = 0;
+            for (std::vector<int>& set : plain) {
+                for (int j = before + 1; j <= before + ofList[list] && made;) {
+                    const int k = 10 * list + indexes[next++ % indexes.size()];
+                    const int number = candidates.at(static_cast<std::size_t>(k)).label;
+                    bool held = false;
+                    for (int i = 1; i <= j; ++i) {
+                        held = held || set.at(static_cast<std::size_t>(i) - 1) == number;
+                    }
+                    if (!held) {
+                        set.at(static_cast<std::size_t>(j) - 1) = number;
+                        ++j;
+                    } else {
+                        made = ++retries < 5000;
+                    }
+                }
+            }
+        }
+
+        FixedSource source(ValuesFor(indexes, 10));
+        SetTable table{};
+        ASSERT_EQ(FillHcdSets(source, Basis(candidates, counts), sets, table), made);
+        ASSERT_EQ(source.draws, next);
+        for (int row = 1; row <= sets; ++row) {
+            ASSERT_EQ(SetOf(table, row), plain.at(static_cast<std::size_t>(row) - 1));
+        }
+    }
+}
+
+TEST(HcdSets, TypedCountsAreHeldToWhatCanBeAddedUp)
+{
+    EXPECT_EQ(TypedCounts(2, 0, 6), (HcdCounts{.hot = 2, .cold = 0, .due = 6}));
+    EXPECT_EQ(TypedCounts(-3, 1e300, 4), (HcdCounts{.hot = 0, .cold = 100, .due = 4}));
+    EXPECT_GT(TypedCounts(1e9, 1e9, 1e9).Total(), kMostPicks);
+}
+
+TEST(HcdSets, MoreThanTenSetsFallBackToThePersonalSettings)
+{
+    EXPECT_EQ(GameSets(1, 3), 1);
+    EXPECT_EQ(GameSets(10, 3), 10);
+    EXPECT_EQ(GameSets(11, 3), 3);
+    EXPECT_EQ(GameSets(1e300, 3), 3);
+    EXPECT_EQ(GameSets(0, 3), 0);
+    EXPECT_EQ(GameSets(-1, 3), 0);
+    EXPECT_EQ(GameSets(11, 99), 10) << "settings out of their range do not lead out of a table";
 }
 
 TEST(HcdSets, AnEmptyListFillsNothing)
 {
     RandomGenerator random = Generator();
     SetTable table{};
-    EXPECT_FALSE(FillHcdSets(random, HcdCandidateTable{}, {.hot = 1, .cold = 0, .due = 0}, 1, table));
+    EXPECT_FALSE(FillHcdSets(random, Basis(HcdCandidateTable{}, {.hot = 1, .cold = 0, .due = 0}), 1, table));
     EXPECT_EQ(SetOf(table, 1), Set(10, 0));
 }
 
@@ -147,7 +235,8 @@ TEST(HcdSets, EveryCandidateIsAsLikelyAsAnyOther)
     constexpr int kRounds = 4000;
     for (int round = 0; round < kRounds; ++round) {
         SetTable table{};
-        ASSERT_TRUE(FillHcdSets(random, ThirtyCandidates(), {.hot = 2, .cold = 2, .due = 2}, 10, table));
+        ASSERT_TRUE(
+            FillHcdSets(random, Basis(ThirtyCandidates(), {.hot = 2, .cold = 2, .due = 2}), 10, table));
         for (int row = 1; row <= 10; ++row) {
             for (const int number : SetOf(table, row)) {
                 ++seen.at(static_cast<std::size_t>(number));

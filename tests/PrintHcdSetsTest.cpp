@@ -20,7 +20,8 @@ PrintedDocument Report(int lastDraws, const HcdCounts& counts, const SetTable& t
 {
     Printout printout(u"Sets"_s, kStandardFont);
     printout.PreparePrinter();
-    PrintHcdSets(printout, lastDraws, counts, Candidates(), table, picks, sets);
+    PrintHcdSets(printout, {.lastDraws = lastDraws, .counts = counts, .candidates = Candidates()}, table,
+                 picks, sets);
     printout.FinishPrinting();
     return printout.Document();
 }
