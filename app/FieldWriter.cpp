@@ -54,6 +54,12 @@ void FieldWriter::Number(double value)
     }
 }
 
+void FieldWriter::Amount(Currency amount)
+{
+    Begin();
+    m_bytes += amount.Plain().toLatin1();
+}
+
 void FieldWriter::Text(const QString& text)
 {
     Begin();
@@ -84,7 +90,7 @@ void FieldWriter::AsHeld(const Cell& cell)
     } else if (const QDate* date = std::get_if<QDate>(&cell)) {
         Date(*date);
     } else {
-        Begin();
+        Nothing();
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Cell.h"
+#include "app/Currency.h"
 
 #include <QByteArray>
 #include <QDate>
@@ -13,11 +14,15 @@ class FieldWriter
 {
 public:
     void Number(double value);
+    /// An amount, exact to its last digit.
+    void Amount(Currency amount);
     void Text(const QString& text);
     /// @param date  a day of the years 0 to 9999
     void Date(QDate date);
     /// The cell under its own kind; an empty cell is a field of nothing.
     void AsHeld(const Cell& cell);
+    /// A field of nothing, as of an empty cell.
+    void Nothing() { Begin(); }
     void EndLine();
 
     [[nodiscard]] const QByteArray& Bytes() const { return m_bytes; }

@@ -3,6 +3,7 @@
 #include "app/AppSettings.h"
 #include "app/DrawDatabase.h"
 #include "app/HcdList.h"
+#include "app/InvestmentStatement.h"
 #include "app/RandomSource.h"
 #include "app/SetTable.h"
 #include "database/NumberStatistics.h"
@@ -14,6 +15,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <vector>
 
 /// What the file dialog is asked for, and what it answers when the user cancels.
 enum FileDialogMode : qint16 {
@@ -68,6 +70,10 @@ struct LGLOBAL {
         topNumbersText;                 ///< line 1 the heading of the top numbers, line 2 the numbers alone
     std::array<QString, 4> scratchText; ///< four more lines, free for any form
 
+    /// The scratch copy of the records: as many rows as a form gave it, row 0 not used. The winner check
+    /// keeps what it found here until its next search.
+    std::vector<DrawRecord> scratchRecords;
+
     // Generated sets
     SetTable PickTable{};
     CandidateList CandidateNumbers;
@@ -83,6 +89,12 @@ struct LGLOBAL {
     EditMode editMode = EditMode::Normal;
     qint16 SelectedRecord = 0; ///< record chosen in the record dialog, 0 = none
     qint16 ClickedRecord = 0;  ///< record of the grid row last clicked, 0 = none
+
+    // The investment statement
+    InvestmentTable InvestmentRows; ///< as typed so far; empty while the statement is not open
+    float InvestmentRowCount = 0;   ///< rows in use after the last calculation or load
+    Currency InvestmentTotal;       ///< of the last calculation or load
+    QString insertRowText;          ///< the row number typed into InInvNum; "" after a cancel
 
     // What the world outside says
     QLocale locale;                                     ///< of dates on screen and paper

@@ -98,6 +98,10 @@ void LotoMenu::ShowFileInMemory()
     const DrawDatabase& database = Shared().database;
     m_ui->InfoLabel->setText(database.count == 0 ? QString()
                                                  : u" File in Memory \r\n  "_s + database.title + u"  "_s);
+    // A title of any length must not push the window wider or the buttons together; all of it is in the tip.
+    constexpr int kMostLines = 3;
+    m_ui->InfoLabel->setMaximumHeight(kMostLines * m_ui->InfoLabel->fontMetrics().lineSpacing());
+    m_ui->InfoLabel->setToolTip(database.title.toHtmlEscaped());
 }
 
 void LotoMenu::OpenNamedFile(const QString& path)

@@ -190,7 +190,8 @@ void MDIContainer::showEvent(QShowEvent* event)
 
 void MDIContainer::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(MayEndProgram(m_shared, m_prompts));
+    const bool formAgrees = m_active == nullptr || m_active->MayClose();
+    event->setAccepted(formAgrees && MayEndProgram(m_shared, m_prompts));
 }
 
 void MDIContainer::TellComesLater(const QString& what)

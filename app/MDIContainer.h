@@ -34,6 +34,7 @@ public:
     void Start();
 
     [[nodiscard]] LotoMenu& Menu() { return *m_menu; }
+    [[nodiscard]] WorkingForm* ActiveForm() { return m_active; }
     [[nodiscard]] const WorkingForm* ActiveForm() const { return m_active; }
 
     void ShowForm(FormName name) override;

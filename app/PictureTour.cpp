@@ -71,6 +71,9 @@ void AddStop(Album& album, MDIContainer& window, QSize opening, const TourStop& 
     constexpr QSize kLarge(1280, 800);
     const auto arrange = [&window, &stop] {
         window.ShowForm(stop.form);
+        if (stop.fill && window.ActiveForm() != nullptr) {
+            stop.fill(*window.ActiveForm());
+        }
         QCoreApplication::processEvents();
         ClickIn(window, stop.button);
     };

@@ -14,8 +14,9 @@
 /// What a form can look like beyond how it opens: a button pressed by its object name.
 struct TourStop {
     FormName form = FormName::LotoMenu;
-    QString name;   ///< of the pictures
-    QString button; ///< clicked after the form is shown; "" for none
+    QString name;                                  ///< of the pictures
+    QString button;                                ///< clicked after the form is shown; "" for none
+    std::function<void(WorkingForm& form)> fill{}; ///< puts something to see into the form that is shown
 };
 
 /// A dialog on the tour. It is only shown, never run: nobody is there to answer it.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 /// Where the program keeps "Personal.Lot", "Sample.Lto" and "Extract.lto".
 struct ProgramFolderChoice {
@@ -10,5 +11,6 @@ struct ProgramFolderChoice {
 };
 
 /// The absolute path of the program folder. The user's data folder and a folder asked for are made when they
-/// are not there; a folder made here for the first time receives the sample database from @p samplePath.
-[[nodiscard]] QString ChooseProgramFolder(const ProgramFolderChoice& choice, const QString& samplePath);
+/// are not there; a folder made here for the first time receives a copy of each
+/// sample, under its own name.
+[[nodiscard]] QString ChooseProgramFolder(const ProgramFolderChoice& choice, const QStringList& samples);

@@ -46,9 +46,9 @@ struct Digits {
 
 constexpr int kCertainDigits = 15;
 
-/// Rounds to @p decimals places on the decimal digits, so that 2.675 is a half although its binary
-/// neighbour lies below it.
-Digits RoundHalfAway(double magnitude, qsizetype decimals)
+/// The fifteen digits that a double holds for certain, so that 2.675 is a half although its binary neighbour
+/// lies below it.
+Digits DigitsOf(double magnitude)
 {
     const QByteArray scientific = QByteArray::number(magnitude, 'e', kCertainDigits - 1);
     const qsizetype mark = scientific.indexOf('e');
@@ -61,6 +61,23 @@ Digits RoundHalfAway(double magnitude, qsizetype decimals)
         result.digits.prepend(QByteArray(1 - result.wholeDigits, '0'));
         result.wholeDigits = 1;
     }
+    return result;
+}
+
+Digits DigitsOf(Currency amount)
+{
+    constexpr qsizetype kDecimals = 4;
+    const auto count = static_cast<quint64>(amount.TenThousandths());
+    Digits result;
+    result.digits =
+        QByteArray::number(amount < Currency() ? 0 - count : count).rightJustified(kDecimals + 1, '0');
+    result.wholeDigits = result.digits.size() - kDecimals;
+    return result;
+}
+
+/// Rounds to @p decimals places on the decimal digits.
+Digits RoundHalfAway(Digits result, qsizetype decimals)
+{
     const qsizetype kept = result.wholeDigits + decimals;
     if (kept >= result.digits.size()) {
         result.digits.append(QByteArray(kept - result.digits.size(), '0'));
@@ -81,6 +98,38 @@ Digits RoundHalfAway(double magnitude, qsizetype decimals)
         }
     }
     return result;
+}
+
+QString Write(const Digits& exact, bool negative, QStringView picture)
+{
+    const Picture wanted = ReadPicture(picture);
+    const Digits rounded = RoundHalfAway(exact, wanted.decimals);
+
+    QByteArray whole = rounded.digits.left(rounded.wholeDigits);
+    const qsizetype leading = std::distance(
+        whole.cbegin(), std::find_if(whole.cbegin(), whole.cend(), [](char digit) { return digit != '0'; }));
+    whole.remove(0, leading);
+    if (whole.size() < wanted.leastWhole) {
+        whole.prepend(QByteArray(wanted.leastWhole - whole.size(), '0'));
+    }
+    if (wanted.grouped) {
+        for (qsizetype place = whole.size() - 3; place > 0; place -= 3) {
+            whole.insert(place, ',');
+        }
+    }
+    QByteArray decimals = rounded.digits.mid(rounded.wholeDigits);
+    while (decimals.size() > wanted.leastDecimals && decimals.endsWith('0')) {
+        decimals.chop(1);
+    }
+
+    const bool zero =
+        std::all_of(rounded.digits.cbegin(), rounded.digits.cend(), [](char d) { return d == '0'; });
+    QByteArray result = (negative && !zero) ? QByteArray("-") : QByteArray();
+    result += whole;
+    if (wanted.point) {
+        result += '.' + decimals;
+    }
+    return QString::fromLatin1(result);
 }
 
 bool IsDigit(QChar ch)
@@ -111,34 +160,12 @@ QString Format(double value, QStringView picture)
     if (!std::isfinite(value)) {
         return {};
     }
-    const Picture wanted = ReadPicture(picture);
-    const Digits rounded = RoundHalfAway(std::abs(value), wanted.decimals);
+    return Write(DigitsOf(std::abs(value)), std::signbit(value), picture);
+}
 
-    QByteArray whole = rounded.digits.left(rounded.wholeDigits);
-    const qsizetype leading = std::distance(
-        whole.cbegin(), std::find_if(whole.cbegin(), whole.cend(), [](char digit) { return digit != '0'; }));
-    whole.remove(0, leading);
-    if (whole.size() < wanted.leastWhole) {
-        whole.prepend(QByteArray(wanted.leastWhole - whole.size(), '0'));
-    }
-    if (wanted.grouped) {
-        for (qsizetype place = whole.size() - 3; place > 0; place -= 3) {
-            whole.insert(place, ',');
-        }
-    }
-    QByteArray decimals = rounded.digits.mid(rounded.wholeDigits);
-    while (decimals.size() > wanted.leastDecimals && decimals.endsWith('0')) {
-        decimals.chop(1);
-    }
-
-    const bool zero =
-        std::all_of(rounded.digits.cbegin(), rounded.digits.cend(), [](char d) { return d == '0'; });
-    QByteArray result = (std::signbit(value) && !zero) ? QByteArray("-") : QByteArray();
-    result += whole;
-    if (wanted.point) {
-        result += '.' + decimals;
-    }
-    return QString::fromLatin1(result);
+QString Format(Currency amount, QStringView picture)
+{
+    return Write(DigitsOf(amount), amount < Currency(), picture);
 }
 
 QString Format(const QString& text, QStringView picture)
@@ -152,7 +179,7 @@ QString Str(double value)
     return value < 0 ? digits : u' ' + digits;
 }
 
-double Val(QStringView text)
+QByteArray LeadingNumber(QStringView text)
 {
     QByteArray number;
     bool point = false;
@@ -185,6 +212,12 @@ double Val(QStringView text)
         }
     }
     number.truncate(lastGood);
+    return number;
+}
+
+double Val(QStringView text)
+{
+    const QByteArray number = LeadingNumber(text);
     return number.isEmpty() ? 0 : NearestDouble(number);
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "app/Currency.h"
+
+#include <QByteArray>
 #include <QString>
 #include <QStringView>
 
@@ -16,11 +19,18 @@
 /// @return "" for a number that is not finite.
 [[nodiscard]] QString Format(double value, QStringView picture);
 
+/// Writes an amount under a picture, exact to its last digit; otherwise as a number.
+[[nodiscard]] QString Format(Currency amount, QStringView picture);
+
 /// Writes the numeric value of a text under a picture; an empty (or all blank) text stays empty.
 [[nodiscard]] QString Format(const QString& text, QStringView picture);
 
 /// The number as decimal text with one character for the sign: a blank, or "-".
 [[nodiscard]] QString Str(double value);
+
+/// The characters of the leading number of a text, without blanks: sign, digits, point, exponent. Empty when
+/// the text does not begin with a number. See Val.
+[[nodiscard]] QByteArray LeadingNumber(QStringView text);
 
 /// The leading number of a text; blanks are skipped wherever they stand, "." is the decimal point in
 /// every locale, and an exponent counts. 0 when the text does not begin with a number; a number beyond the

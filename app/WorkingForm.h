@@ -19,6 +19,11 @@ public:
     /// Brings the form to its first state. Called each time it is opened, before it is shown.
     virtual void Load() = 0;
 
+    /// Asked before the program ends while the form is shown: a form that holds what is not saved asks the
+    /// user.
+    /// @return false when the user wants to go back.
+    [[nodiscard]] virtual bool MayClose() { return true; }
+
     /// Where the form stands in the main window's left upper corner, in twips, when it comes to the front.
     [[nodiscard]] virtual QPoint FrontPlace() const;
 

@@ -15,6 +15,9 @@
 #include "database/LGraph.h"
 #include "database/StatisticsChart.h"
 #include "hotcold/LHotCold.h"
+#include "invest/InInvNum.h"
+#include "invest/LInvTrack.h"
+#include "picks/LCheckWin.h"
 #include "picks/Lottery.h"
 
 #include <QApplication>
@@ -31,6 +34,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kSample = u":/samples/Sample.Lto"_s;
+const QString kSampleStatement = u":/samples/Sample.inv"_s;
 
 struct CommandLine {
     QString file;       ///< opened at start, absolute; "" for none
@@ -110,6 +114,10 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
     const auto records = [&] { return std::make_unique<InRecNum>(shared, &window); };
     const auto settings = [&] { return std::make_unique<ChangeFnt>(shared, prompts, window, &window); };
     const auto extract = [&] { return std::make_unique<Extract>(shared, prompts, window, &window); };
+    const auto insertedLine = [&] {
+        constexpr int kAnyRow = 7;
+        return std::make_unique<InInvNum>(shared, kAnyRow, &window);
+    };
     return {
         {u"AMsgbox"_s, message, {}},
         {u"AllYesNo"_s, question, {}},
@@ -122,6 +130,7 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
         {u"ChangeFnt"_s, settings, {}, true},
         {u"Extract"_s, extract, {}},
         {u"Extract-help"_s, extract, u"EHelp"_s},
+        {u"InInvNum"_s, insertedLine, {}},
     };
 }
 
@@ -142,6 +151,9 @@ int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const Comm
     QApplication::setStyle(new StillStyle); // the application's from now on
     window.Menu().OpenNamedFile(line.file.isEmpty() ? kSample : line.file);
     window.ShowForm(FormName::LotoMenu);
+    const auto openStatement = [](WorkingForm& form) {
+        dynamic_cast<LInvTrack&>(form).OpenNamedFile(kSampleStatement);
+    };
     const Tour tour{
         .stops = {{FormName::LotoMenu, u"LotoMenu"_s, {}},
                   {FormName::LDbase, u"LDbase"_s, {}},
@@ -155,7 +167,11 @@ int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const Comm
                   {FormName::LGraph, u"LGraph"_s, {}},
                   {FormName::LGraph, u"LGraph-sorted"_s, u"ChngView"_s},
                   {FormName::LGraph, u"LGraph-since"_s, u"GWhichCnt"_s},
-                  {FormName::LGraph, u"LGraph-3d"_s, u"TwoDBut"_s}},
+                  {FormName::LGraph, u"LGraph-3d"_s, u"TwoDBut"_s},
+                  {FormName::LCheckWin, u"LCheckWin"_s, {}},
+                  {FormName::LCheckWin, u"LCheckWin-help"_s, u"CHelp"_s},
+                  {FormName::LInvTrack, u"LInvTrack"_s, {}, openStatement},
+                  {FormName::LInvTrack, u"LInvTrack-help"_s, u"IHelp"_s, openStatement}},
         .dialogs = TourDialogs(shared, prompts, window),
     };
     const Outcome taken = TakePictures(window, tour, line.tourFolder);
@@ -184,7 +200,7 @@ int main(int argc, char* argv[])
         ChooseProgramFolder({.executableFolder = QCoreApplication::applicationDirPath(),
                              .dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
                              .asked = line.folder},
-                            kSample);
+                            {kSample, kSampleStatement});
     LGLOBAL shared;
     DialogPrompts prompts(shared);
     MDIContainer window(shared, prompts, programFolder);
@@ -197,6 +213,12 @@ int main(int argc, char* argv[])
     });
     window.AddForm(FormName::LHotCold, [&](FormSwitcher& switcher, QWidget* parent) {
         return new LHotCold(shared, prompts, switcher, parent);
+    });
+    window.AddForm(FormName::LCheckWin, [&](FormSwitcher& switcher, QWidget* parent) {
+        return new LCheckWin(shared, prompts, switcher, parent);
+    });
+    window.AddForm(FormName::LInvTrack, [&](FormSwitcher& switcher, QWidget* parent) {
+        return new LInvTrack(shared, prompts, switcher, parent);
     });
     window.AddForm(FormName::Lottery, [&](FormSwitcher& switcher, QWidget* parent) {
         return new Lottery(shared, prompts, switcher, parent);

@@ -1,6 +1,7 @@
 // Any text at all, given to everything that reads typed text: numbers, dates, pictures. The first byte
 // chooses the locale.
 
+#include "app/Currency.h"
 #include "app/FieldWriter.h"
 #include "app/ShortDate.h"
 #include "app/TextPictures.h"
@@ -54,6 +55,19 @@ void CheckNumber(const QString& text)
     }
 }
 
+void CheckAmount(const QString& text)
+{
+    const std::optional<Currency> amount = Currency::FromText(text);
+    if (!amount) {
+        FUZZ_CHECK(std::abs(Val(text)) > 9.2e14);
+        return;
+    }
+    FUZZ_CHECK(std::abs(Val(text)) < 9.3e14);
+    FUZZ_CHECK(Currency::FromText(amount->Plain()) == amount);
+    const QString money = Format(*amount, u"####,,##0.00");
+    FUZZ_CHECK(money.size() >= 4 && money.at(money.size() - 3) == u'.');
+}
+
 void CheckPictures(const QString& text, const QString& picture)
 {
     const double value = Val(text);
@@ -80,6 +94,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     const QString text = QString::fromUtf8(bytes);
     CheckDate(text, LocaleOf(data[0]));
     CheckNumber(text);
+    CheckAmount(text);
     const qsizetype bar = text.indexOf(u'|');
     CheckPictures(text.left(bar), bar < 0 ? QStringLiteral("###.00") : text.mid(bar + 1));
     return 0;

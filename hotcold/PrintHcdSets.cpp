@@ -17,7 +17,8 @@ void PrintList(Printout& printout, const QString& name, int count, HcdList list,
     constexpr int kNumberWidth = 4;
     printout.PrintAt(1, name + u" = "_s + Format(count, u"##0"));
     for (int i = 1; i <= kHcdListLength; ++i) {
-        const qint16 number = candidates.at(static_cast<std::size_t>(RowBefore(list) + i)).label;
+        const int row = RowBefore(list) + i;
+        const qint16 number = candidates.at(static_cast<std::size_t>(row)).label;
         printout.PrintAt(kNumbersColumn + (i - 1) * kNumberWidth,
                          RightJustify(Format(number, u"##"), kNumberWidth));
     }

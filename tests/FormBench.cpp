@@ -12,6 +12,12 @@ FormBench::FormBench()
     m_window.AddForm(FormName::LHotCold, [this](FormSwitcher& switcher, QWidget* parent) {
         return new LHotCold(m_shared, m_prompts, switcher, parent);
     });
+    m_window.AddForm(FormName::LCheckWin, [this](FormSwitcher& switcher, QWidget* parent) {
+        return new LCheckWin(m_shared, m_prompts, switcher, parent);
+    });
+    m_window.AddForm(FormName::LInvTrack, [this](FormSwitcher& switcher, QWidget* parent) {
+        return new LInvTrack(m_shared, m_prompts, switcher, parent);
+    });
     m_window.AddForm(FormName::Lottery, [this](FormSwitcher& switcher, QWidget* parent) {
         return new Lottery(m_shared, m_prompts, switcher, parent);
     });

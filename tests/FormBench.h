@@ -6,6 +6,8 @@
 #include "database/LDbase.h"
 #include "database/LGraph.h"
 #include "hotcold/LHotCold.h"
+#include "invest/LInvTrack.h"
+#include "picks/LCheckWin.h"
 #include "picks/Lottery.h"
 #include "tests/CannedPrompts.h"
 #include "tests/ModalWindows.h"

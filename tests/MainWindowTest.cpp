@@ -119,7 +119,7 @@ TEST_F(MainWindow, AButtonWhoseFormComesLaterSaysSoAndTheMenuStays)
 {
     Start();
     FillDatabase(1);
-    const QStringList later{u"CheckWin"_s, u"InvTrack"_s, u"HowtoUse"_s};
+    const QStringList later{u"HowtoUse"_s};
     for (const QString& name : later) {
         m_prompts.notices.clear();
         Click(name);
@@ -129,6 +129,23 @@ TEST_F(MainWindow, AButtonWhoseFormComesLaterSaysSoAndTheMenuStays)
             << m_prompts.notices.first().toStdString();
         EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
         EXPECT_TRUE(Button(name).isVisible());
+    }
+}
+
+TEST_F(MainWindow, ALongTitleLeavesTheWindowAsLargeAsItWas)
+{
+    Start();
+    const QSize before = m_window.size();
+    for (const QString& title : {QString(300, u'W'), u"Wide words "_s.repeated(60)}) {
+        FillDatabase(1);
+        m_shared.database.title = title;
+        Click(u"DBaseForm"_s);
+        Click(u"DExit"_s);
+        Settle();
+        EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
+        EXPECT_EQ(m_window.size(), before);
+        EXPECT_LE(m_window.minimumSizeHint().width(), before.width());
+        EXPECT_EQ(Find<QLabel>(u"InfoLabel"_s).toolTip(), title);
     }
 }
 

@@ -21,15 +21,23 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(QDir(m_folder.path()).mkdir(u"bin"_s));
-        Place(Path(u"sample"_s), "the sample");
-        ASSERT_TRUE(QFile::setPermissions(Path(u"sample"_s), QFile::ReadOwner));
+        ASSERT_TRUE(QDir(m_folder.path()).mkdir(u"samples"_s));
+        for (const QString& sample : Samples()) {
+            Place(sample, "the sample");
+            ASSERT_TRUE(QFile::setPermissions(sample, QFile::ReadOwner));
+        }
     }
 
     [[nodiscard]] QString Path(const QString& name) const { return m_folder.filePath(name); }
 
+    [[nodiscard]] QStringList Samples() const
+    {
+        return {Path(u"samples/Sample.Lto"_s), Path(u"samples/Sample.inv"_s)};
+    }
+
     [[nodiscard]] QString Choose(const ProgramFolderChoice& choice) const
     {
-        return ChooseProgramFolder(choice, Path(u"sample"_s));
+        return ChooseProgramFolder(choice, Samples());
     }
 
 private:
@@ -68,18 +76,21 @@ TEST_F(ProgramFolder, IsAlwaysAnAbsolutePath)
     EXPECT_EQ(Choose({QString(), QString(), u"a/../b/."_s}), current + u"/b"_s);
 }
 
-TEST_F(ProgramFolder, AFolderMadeHereReceivesTheSampleWhichCanThenBeWritten)
+TEST_F(ProgramFolder, AFolderMadeHereReceivesTheSamplesWhichCanThenBeWritten)
 {
     EXPECT_EQ(Choose({QString(), Path(u"data"_s), {}}), Path(u"data"_s));
-    EXPECT_EQ(BytesOf(Path(u"data/Sample.Lto"_s)), "the sample");
-    EXPECT_TRUE(QFile::permissions(Path(u"data/Sample.Lto"_s)).testFlag(QFile::WriteOwner));
-    EXPECT_EQ(NamesIn(Path(u"data"_s)), QStringList{u"Sample.Lto"_s});
+    for (const QString& sample : {u"data/Sample.Lto"_s, u"data/Sample.inv"_s}) {
+        EXPECT_EQ(BytesOf(Path(sample)), "the sample");
+        EXPECT_TRUE(QFile::permissions(Path(sample)).testFlag(QFile::WriteOwner));
+    }
+    EXPECT_EQ(NamesIn(Path(u"data"_s)), QStringList({u"Sample.Lto"_s, u"Sample.inv"_s}));
 }
 
 TEST_F(ProgramFolder, AFolderThatWasThereIsLeftAsItIs)
 {
     EXPECT_EQ(Choose({QString(), Path(u"data"_s), {}}), Path(u"data"_s));
     ASSERT_TRUE(QFile::remove(Path(u"data/Sample.Lto"_s)));
+    ASSERT_TRUE(QFile::remove(Path(u"data/Sample.inv"_s)));
     Place(Path(u"data/Personal.Lot"_s), "mine");
     EXPECT_EQ(Choose({QString(), Path(u"data"_s), {}}), Path(u"data"_s));
     EXPECT_EQ(NamesIn(Path(u"data"_s)), QStringList{u"Personal.Lot"_s})
@@ -89,15 +100,16 @@ TEST_F(ProgramFolder, AFolderThatWasThereIsLeftAsItIs)
 
 TEST_F(ProgramFolder, WithoutASampleTheFolderIsMadeAllTheSame)
 {
-    EXPECT_EQ(ChooseProgramFolder({QString(), Path(u"data"_s), {}}, Path(u"none"_s)), Path(u"data"_s));
+    EXPECT_EQ(ChooseProgramFolder({QString(), Path(u"data"_s), {}}, {Path(u"none"_s)}), Path(u"data"_s));
     EXPECT_EQ(NamesIn(Path(u"data"_s)), QStringList());
 }
 
 TEST_F(ProgramFolder, AFolderThatCannotBeMadeIsStillTheAnswer)
 {
-    EXPECT_EQ(Choose({QString(), QString(), Path(u"sample/below"_s)}), Path(u"sample/below"_s));
-    EXPECT_FALSE(QFileInfo::exists(Path(u"sample/below"_s)));
-    EXPECT_EQ(BytesOf(Path(u"sample"_s)), "the sample");
+    EXPECT_EQ(Choose({QString(), QString(), Path(u"samples/Sample.inv/below"_s)}),
+              Path(u"samples/Sample.inv/below"_s));
+    EXPECT_FALSE(QFileInfo::exists(Path(u"samples/Sample.inv/below"_s)));
+    EXPECT_EQ(BytesOf(Path(u"samples/Sample.inv"_s)), "the sample");
 }
 
 #ifdef Q_OS_UNIX

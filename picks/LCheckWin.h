@@ -1,0 +1,56 @@
+#pragma once
+
+#include "app/WorkingForm.h"
+#include "picks/MatchesModel.h"
+#include "picks/WinnerReport.h"
+
+#include <array>
+#include <memory>
+
+namespace Ui {
+class LCheckWin;
+}
+
+/// The winner check: which draws of the database share at least so many numbers with the player's.
+class LCheckWin : public WorkingForm
+{
+    Q_OBJECT
+
+public:
+    LCheckWin(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QWidget* parent = nullptr);
+    ~LCheckWin() override;
+
+    void Load() override;
+
+    /// Gives the grid its rows and columns, with empty cells, and shows as many number boxes as there are
+    /// picks, which stay as they are during a search.
+    void MakeCGrid();
+    /// Empties the result cells; the results themselves stay and can still be printed.
+    void ClearCGrid();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void SetUpGrid();
+    void SetUpTitle();
+    void SizeColumns();
+    void SetUpBoxes();
+    void ConnectCommands();
+    [[nodiscard]] std::optional<Message> LeaveMinimum(InputBox& box, bool edited);
+    [[nodiscard]] QStringList NumberTexts() const;
+
+    void CheckNumbers();
+    void Search(const QStringList& numbers, int minimum);
+    void ClearAll();
+    void PrintMatches();
+    void ShowHelp(bool opens);
+    void Exit();
+
+    std::unique_ptr<Ui::LCheckWin> m_ui;
+    MatchesModel m_matches;
+    std::array<InputBox*, kMostPicks> CInYourNum{};
+    WinnerSearch m_search;    ///< the last one; its results are the scratch copy of the records
+    int m_gridRows = 0;       ///< wanted of the grid, its heading among them
+    bool m_searching = false; ///< from the press of "Check Numbers" until the results are shown
+};
