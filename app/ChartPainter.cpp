@@ -461,11 +461,8 @@ private:
         constexpr qreal kCoarse = 7; // seen as lines, not as grey
         const qreal step = kCoarse * m_line;
         QList<QLineF> lines;
-        for (qreal sum = bar.left() + bar.bottom(); sum > bar.left() + bar.top(); sum -= step) {
-            Add(lines, bar, sum);
-        }
-        for (qreal sum = bar.left() + bar.bottom() + step; sum < bar.right() + bar.bottom(); sum += step) {
-            Add(lines, bar, sum);
+        for (int i = -int(bar.height() / step); i * step < bar.width(); ++i) {
+            Add(lines, bar, bar.left() + bar.bottom() + i * step);
         }
         m_painter.setPen(QPen(m_look.text, m_line, Qt::SolidLine, Qt::FlatCap));
         m_painter.drawLines(lines);
@@ -485,8 +482,9 @@ private:
     {
         m_painter.setPen(QPen(m_look.text, m_line, Qt::SolidLine, Qt::FlatCap));
         constexpr qreal kDense = 3; // darker than the front
-        for (qreal y = bar.bottom(); y > bar.top(); y -= kDense * m_line) {
-            Slanted(bar.right(), y);
+        const qreal step = kDense * m_line;
+        for (int i = 0; i * step < bar.height(); ++i) {
+            Slanted(bar.right(), bar.bottom() - i * step);
         }
     }
 

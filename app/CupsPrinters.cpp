@@ -290,5 +290,6 @@ Outcome CupsPrinters::Print(const PrintedDocument& document, const DefaultPrinte
     if (Outcome painted = MakePdf(document, printer.paper, pdf, pagesDone); !painted.ok) {
         return painted;
     }
-    return Job(cups, *queue.Queue(), document.name.toUtf8()).Send(pdf);
+    constexpr qsizetype kLongestName = 80; // a name of a job has 255 bytes, and a title any length
+    return Job(cups, *queue.Queue(), document.name.left(kLongestName).toUtf8()).Send(pdf);
 }

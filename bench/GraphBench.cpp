@@ -14,6 +14,7 @@
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
+#include <array>
 #include <chrono>
 #include <stdexcept>
 
@@ -129,13 +130,13 @@ BarChart Chart(BarStyle style)
     return StatisticsChart(counts, kHighest, {.records = kRecords, .title = u"Made"_s, .style = style});
 }
 
-constexpr QSize kSizes[] = {{623, 405}, {1260, 740}};
+constexpr std::array kSizes{QSize(623, 405), QSize(1260, 740)};
 
 /// Finding all places anew and painting the chart, in the opening window and in a large one.
 void RedrawChart(benchmark::State& state)
 {
     const BarChart chart = Chart(state.range(0) == 0 ? BarStyle::Flat : BarStyle::ThreeDimensional);
-    QImage picture(kSizes[state.range(1)], QImage::Format_ARGB32_Premultiplied);
+    QImage picture(kSizes.at(static_cast<std::size_t>(state.range(1))), QImage::Format_ARGB32_Premultiplied);
     BarChartView view;
     view.resize(picture.size());
     for ([[maybe_unused]] auto round : state) {
@@ -152,7 +153,7 @@ BENCHMARK(RedrawChart)
 void PaintPlainBoxes(benchmark::State& state)
 {
     const BarChart chart = Chart(BarStyle::Flat);
-    QImage picture(kSizes[state.range(0)], QImage::Format_ARGB32_Premultiplied);
+    QImage picture(kSizes.at(static_cast<std::size_t>(state.range(0))), QImage::Format_ARGB32_Premultiplied);
     for ([[maybe_unused]] auto round : state) {
         QPainter painter(&picture);
         painter.fillRect(picture.rect(), Qt::white);

@@ -441,6 +441,19 @@ TEST_F(PrintOnPaper, AChartComesOutAsLinesAndTextOnAWholePageInLandscape)
     }
 }
 
+TEST_F(PrintOnPaper, ATitleOfAnyLengthIsNoReasonNotToPrint)
+{
+    m_scheduler.AddQueue(u"q"_s, u"A4"_s);
+    m_scheduler.MakeDefault(u"q"_s);
+    for (const qsizetype length : {256, 1024, 5000, 200'000}) {
+        BarChart chart = MadeChart(10, 9);
+        chart.title = QString(length, u'ö');
+        const Outcome printed = Print(ChartDocument(chart));
+        EXPECT_TRUE(printed.ok) << length << ": " << printed.reason.toStdString();
+        EXPECT_EQ(m_scheduler.PrintedPages(u"q"_s).size(), 1U);
+    }
+}
+
 TEST_F(PrintOnPaper, TheToolkitsWayPrintsAChartInLandscapeToo)
 {
     m_scheduler.AddQueue(u"q"_s, u"A4"_s);
