@@ -183,10 +183,11 @@ void InputBox::mouseReleaseEvent(QMouseEvent* event)
     if (m_rules.click == InputRules::Click::EmptiesBox) {
         m_shared->entryEdited = 1;
         clear();
-    } else if (m_rules.click == InputRules::Click::SelectsTextEachTime) {
-        selectAll();
-    } else if (std::exchange(m_selectOnRelease, false) && !hasSelectedText()) {
-        selectAll();
+    } else {
+        const bool first = std::exchange(m_selectOnRelease, false) && !hasSelectedText();
+        if (first || m_rules.click == InputRules::Click::SelectsTextEachTime) {
+            selectAll();
+        }
     }
 }
 
