@@ -36,8 +36,8 @@ Outcome PaperPrinting::Run(const QString& text, int steps,
                            const std::function<Outcome(const PagesDone&)>& work)
 {
     m_prompts.SetBusyPointer(true);
-    const Outcome outcome = m_printers.WorksOnAnyThread() ? RunLongWork(m_mainWindow, text, steps, work)
-                                                          : RunWorkHere(m_mainWindow, text, steps, work);
+    Outcome outcome = m_printers.WorksOnAnyThread() ? RunLongWork(m_mainWindow, text, steps, work)
+                                                    : RunWorkHere(m_mainWindow, text, steps, work);
     m_prompts.SetBusyPointer(false); // before anything is told
     return outcome;
 }
