@@ -8,13 +8,7 @@
 #include "picks/PickTexts.h"
 #include "picks/PrintSets.h"
 #include "picks/SelectoriumHelp.h"
-#include "picks/SetsDelegate.h"
 #include "ui_Lottery.h"
-
-#include <QApplication>
-#include <QHeaderView>
-#include <QKeyEvent>
-#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -42,14 +36,6 @@ QString NumberText(double value)
     return Format(value, u"##");
 }
 
-/// The width of the grid for so many picks, in pixels.
-int GridWidth(int picks, int dotsPerInch)
-{
-    constexpr int kColumn = 575;
-    constexpr int kFrame = 10;
-    return TwipsToPixels((picks + 1) * kColumn + kFrame, dotsPerInch);
-}
-
 /// The font with blanks as narrow as it takes to make the line fit the width.
 QFont FittedByBlanks(QFont font, const QString& line, int width)
 {
@@ -62,33 +48,11 @@ QFont FittedByBlanks(QFont font, const QString& line, int width)
     return font;
 }
 
-/// True for what a user does to a window; painting, timers and moves of the window go on.
-bool IsInput(QEvent::Type type)
-{
-    switch (type) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::Wheel:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::Shortcut:
-    case QEvent::InputMethod:
-    case QEvent::ContextMenu:
-    case QEvent::TouchBegin:
-    case QEvent::TouchEnd:
-    case QEvent::TabletPress:
-    case QEvent::TabletRelease:
-        return true;
-    default:
-        return false;
-    }
-}
-
 } // namespace
 
 Lottery::Lottery(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QWidget* parent)
-    : WorkingForm(shared, prompts, switcher, parent), m_ui(std::make_unique<Ui::Lottery>())
+    : WorkingForm(shared, prompts, switcher, parent), m_ui(std::make_unique<Ui::Lottery>()),
+      m_pause(*this, prompts, [this] { m_ui->BallRow->Finish(); })
 {
     m_ui->setupUi(this);
     m_ui->PTextBox->setPlainText(SelectoriumHelpText());
@@ -99,22 +63,13 @@ Lottery::Lottery(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QWid
     Events().WatchInputBoxes();
 }
 
-Lottery::~Lottery()
-{
-    if (m_ui->BallRow->IsRunning()) {
-        Asking().SetBusyPointer(false);
-    }
-}
+Lottery::~Lottery() = default;
 
 void Lottery::SetUpGrid()
 {
-    m_ui->PGrid->setModel(&m_sets);
-    m_ui->PGrid->setItemDelegate(new SetsDelegate(m_ui->PGrid));
-    m_ui->PGrid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    m_ui->PGrid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     // The room beside the grid is kept for ten picks, so that nothing jumps when their number changes.
     for (QWidget* area : {m_ui->GridArea, static_cast<QWidget*>(m_ui->PTextBox)}) {
-        area->setMinimumWidth(GridWidth(kMostPicks, logicalDpiX()));
+        area->setMinimumWidth(m_ui->PGrid->WidthFor(kMostPicks));
     }
 }
 
@@ -201,7 +156,7 @@ std::optional<Message> Lottery::LeaveEntry(InputBox& box, bool edited, const Ent
     if (&box == m_ui->InColNum) {
         m_picks = std::min(int(Val(box.text())), kMostPicks);
         if (!HoldsOnePick()) {
-            m_sets.SetRed(false);
+            m_ui->PGrid->Sets().SetRed(false);
         }
         ShapeGrid(kGridRows);
     }
@@ -287,7 +242,7 @@ void Lottery::Load()
 
     m_pickedFrom.clear();
     m_fromNumbers.clear();
-    m_sets.SetRed(false);
+    m_ui->PGrid->Sets().SetRed(false);
     ShapeGrid(kGridRows);
     ClearDisplay();
     m_ui->PickFrom->setText(u"Picked from numbers"_s);
@@ -321,10 +276,7 @@ void Lottery::ShowDatabase()
 
 void Lottery::ShapeGrid(int rows)
 {
-    m_sets.SetUp(m_picks, rows);
-    m_ui->PGrid->setFixedWidth(GridWidth(std::clamp(m_picks, 1, kMostPicks), logicalDpiX()));
-    m_ui->PGrid->scrollToTop();
-    FitRows();
+    m_ui->PGrid->SetUp(m_picks, rows);
 }
 
 void Lottery::MakeGrid2()
@@ -332,27 +284,9 @@ void Lottery::MakeGrid2()
     ShapeGrid(kMostSets);
 }
 
-void Lottery::FitRows()
-{
-    // Ten sets and their heading fill the grid; larger letters than its own would only be further apart.
-    QTableView* grid = m_ui->PGrid;
-    const int lowest = fontMetrics().height() + 4;
-    const int room = (grid->height() - 2 * grid->frameWidth()) / (kGridRows + 1);
-    const int row = std::clamp(room, lowest, 2 * lowest);
-    grid->horizontalHeader()->setFixedHeight(row);
-    grid->verticalHeader()->setDefaultSectionSize(row);
-    grid->setMinimumHeight((kGridRows + 1) * lowest + 2 * grid->frameWidth());
-}
-
-void Lottery::resizeEvent(QResizeEvent* event)
-{
-    WorkingForm::resizeEvent(event);
-    FitRows();
-}
-
 void Lottery::ClearDisplay()
 {
-    m_sets.Clear();
+    m_ui->PGrid->Sets().Clear();
     m_ui->PickFrom->setText(PickedFromNumbers());
     m_ui->FromNums->clear();
 }
@@ -407,7 +341,7 @@ void Lottery::Calculate()
     m_pickedFrom.clear();
     m_fromNumbers.clear();
     ClearDisplay();
-    m_sets.SetRed(HoldsOnePick()); // as for a bonus ball
+    m_ui->PGrid->Sets().SetRed(HoldsOnePick()); // as for a bonus ball
 
     const PickLimits limits{.mode = m_pickMode,
                             .database = Shared().database.Shape(),
@@ -430,7 +364,7 @@ void Lottery::PickSets(const PickEntries& entries)
     m_picks = int(entries.picks);
     m_setCount = int(entries.sets);
     if (!HoldsOnePick()) {
-        m_sets.SetRed(false);
+        m_ui->PGrid->Sets().SetRed(false);
     }
     ShapeGrid(kGridRows);
     if (!ListCandidates(entries)) {
@@ -473,7 +407,7 @@ bool Lottery::ListCandidates(const PickEntries& entries)
 
 void Lottery::SelectAll()
 {
-    m_sets.SetRed(false);
+    m_ui->PGrid->Sets().SetRed(false);
     m_fromNumbers.clear();
     m_pickedFrom = PickedBySelectAll();
     ChooseFullRange();
@@ -524,48 +458,19 @@ void Lottery::StartColor()
 
 void Lottery::BallsDisplay()
 {
-    Asking().SetBusyPointer(true);
-    qApp->installEventFilter(this);
+    m_pause.Begin();
     m_ui->BallRow->Run();
-}
-
-bool Lottery::eventFilter(QObject* watched, QEvent* event)
-{
-    // Both the window's own object, which gets a click before it moves the focus, and the widgets, which get
-    // their access keys without it. Other windows, a question for one, take input.
-    const auto* widget = qobject_cast<QWidget*>(watched);
-    if (watched != window()->windowHandle() && (widget == nullptr || widget->window() != window())) {
-        return WorkingForm::eventFilter(watched, event);
-    }
-    if (event->type() == QEvent::Close) {
-        m_ui->BallRow->Finish(); // what is asked before the program ends is asked over the sets
-        return false;
-    }
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-        m_ui->BallRow->Finish();
-        return true;
-    }
-    return IsInput(event->type());
-}
-
-void Lottery::hideEvent(QHideEvent* event)
-{
-    WorkingForm::hideEvent(event);
-    if (!event->spontaneous()) {
-        m_ui->BallRow->Finish();
-    }
 }
 
 void Lottery::ShowSets()
 {
-    m_sets.Fill(Shared().PickTable, m_setCount);
+    m_ui->PGrid->Sets().Fill(Shared().PickTable, m_setCount);
     EndCalculation();
 }
 
 void Lottery::EndCalculation()
 {
-    qApp->removeEventFilter(this);
-    Asking().SetBusyPointer(false);
+    m_pause.End();
     m_ui->Picture7->clear();
     ShowHelp(false);
 }

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "app/InputPause.h"
 #include "app/WorkingForm.h"
 #include "picks/PickEntries.h"
-#include "picks/SetsModel.h"
 
 #include <memory>
 
@@ -30,11 +30,6 @@ public:
     /// the main window takes no input but Escape, which ends the run.
     void BallsDisplay();
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-
 private:
     /// What one of the entry boxes is checked against when the focus leaves it.
     struct EntryRange {
@@ -58,7 +53,6 @@ private:
 
     void ShowDatabase();
     void ShapeGrid(int rows);
-    void FitRows();
     void ClearDisplay();
     void ChooseFullRange();
     void ChooseSortedPositions();
@@ -79,7 +73,7 @@ private:
     void Exit();
 
     std::unique_ptr<Ui::Lottery> m_ui;
-    SetsModel m_sets;
+    InputPause m_pause; ///< while the balls roll
     PickMode m_pickMode = PickMode::None;
     bool m_allowFewerPicks = false;
     int m_picks = 0;       ///< numbers of a set, as last calculated or typed

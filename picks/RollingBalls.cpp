@@ -1,7 +1,8 @@
 #include "picks/RollingBalls.h"
 
+#include "app/Animations.h"
+
 #include <QHBoxLayout>
-#include <QStyle>
 
 #include <algorithm>
 #include <chrono>
@@ -40,11 +41,6 @@ RollingBalls::RollingBalls(QWidget* parent) : QWidget(parent), m_stepLength(kSte
     StartColor();
 }
 
-bool RollingBalls::AnimationsAreWanted() const
-{
-    return m_stepLength > 0 && style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
-}
-
 void RollingBalls::StartColor()
 {
     ShowColors(RestingBalls(), RestingBalls(), 1);
@@ -57,7 +53,7 @@ void RollingBalls::Run()
     }
     m_running = true;
     m_clock.start();
-    if (AnimationsAreWanted()) {
+    if (m_stepLength > 0 && AnimationsAreWanted(*this)) {
         ShowMoment();
     } else {
         Finish();

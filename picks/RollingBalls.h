@@ -41,7 +41,6 @@ Q_SIGNALS:
     void Finished();
 
 private:
-    [[nodiscard]] bool AnimationsAreWanted() const;
     void ShowMoment();
     void ShowColors(const BallColors& before, const BallColors& now, double faded);
 

@@ -1058,18 +1058,6 @@ TEST_F(Selectorium, HotColdAndDueDataNeedTenRecords)
 
 TEST_F(Selectorium, HotColdAndDueDataTakeTheFormsPlace)
 {
-    /// Stands for the form of hot, cold and due numbers.
-    class OtherForm : public WorkingForm
-    {
-    public:
-        using WorkingForm::WorkingForm;
-        void Load() override {}
-    };
-    m_window.AddForm(FormName::LHotCold, [this](FormSwitcher& switcher, QWidget* parent) {
-        auto* form = new OtherForm(m_shared, m_prompts, switcher, parent);
-        form->setObjectName(u"LHotCold"_s);
-        return form;
-    });
     FillDatabase(10);
     Open();
     Click(u"ShowHCD"_s);
