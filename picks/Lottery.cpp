@@ -89,7 +89,8 @@ void Lottery::SetUpLabels()
     constexpr int kLines = 3;
     const int width = TwipsToPixels(kWidth, logicalDpiX());
     m_ui->FromNums->setMinimumSize(width, kLines * line);
-    const int indent = TwipsToPixels(kLeft, logicalDpiX()) - m_ui->from->contentsMargins().left();
+    const int margin = m_ui->Frame3->contentsMargins().left() + m_ui->from->contentsMargins().left();
+    const int indent = TwipsToPixels(kLeft, logicalDpiX()) - margin;
     m_ui->FromNumsIndent->changeSize(indent, 0, QSizePolicy::Fixed);
 }
 
@@ -98,7 +99,10 @@ void Lottery::SetUpInputs()
     const auto follow = [this](InputBox* box, QWidget* next, auto range) {
         InputRules rules;
         rules.next = [next] { return next; };
-        rules.leave = [this, range](InputBox& left, bool edited) {
+        rules.leave = [this, range](InputBox& left, bool edited) -> std::optional<Message> {
+            if (m_ui->BallRow->IsRunning()) { // a screen reader moves the focus without any event
+                return std::nullopt;          // a calculation checks the boxes anyway
+            }
             return LeaveEntry(left, edited, range());
         };
         box->Follow(Shared(), rules);
@@ -205,11 +209,11 @@ void Lottery::ConnectCommands()
     OnCommand(m_ui->PPrinter, &Lottery::Print);
     OnCommand(m_ui->ShowHCD, &Lottery::ShowHotColdDue);
     OnCommand(m_ui->PExit, &Lottery::Exit);
-    Events().OnClick(m_ui->PHelp, [this] { ShowHelp(m_ui->PTextBox->isHidden()); });
-    Events().OnClick(m_ui->Option1, [this] { ChooseFullRange(); });
-    Events().OnClick(m_ui->Option2, [this] { ChooseSortedPositions(); });
-    Events().OnClick(m_ui->PWhichCnt, [this] { ChooseCount(); });
-    Events().OnClick(m_ui->ChkDBPicks, [this] { m_allowFewerPicks = m_ui->ChkDBPicks->isChecked(); });
+    OnCommand(m_ui->PHelp, &Lottery::SwitchHelp);
+    OnCommand(m_ui->Option1, &Lottery::ChooseFullRange);
+    OnCommand(m_ui->Option2, &Lottery::ChooseSortedPositions);
+    OnCommand(m_ui->PWhichCnt, &Lottery::ChooseCount);
+    OnCommand(m_ui->ChkDBPicks, &Lottery::ChooseFewerPicks);
     connect(m_ui->BallRow, &RollingBalls::WordChanged, m_ui->Picture7, &QLabel::setText);
     connect(m_ui->BallRow, &RollingBalls::Finished, this, &Lottery::ShowSets);
 }
@@ -217,7 +221,9 @@ void Lottery::ConnectCommands()
 void Lottery::OnCommand(QAbstractButton* button, void (Lottery::*command)())
 {
     Events().OnClick(button, [this, command] {
-        if (!m_ui->BallRow->IsRunning()) { // a screen reader presses buttons without any event
+        if (m_ui->BallRow->IsRunning()) { // a screen reader presses buttons without any event
+            ShowChoices();
+        } else {
             (this->*command)();
         }
     });
@@ -320,6 +326,19 @@ void Lottery::ChooseCount()
     ComputeNumberStats(Shared());
 }
 
+void Lottery::ChooseFewerPicks()
+{
+    m_allowFewerPicks = m_ui->ChkDBPicks->isChecked();
+}
+
+void Lottery::ShowChoices()
+{
+    QAbstractButton* option = m_pickMode == PickMode::SortedPositions ? m_ui->Option2 : m_ui->Option1;
+    option->setChecked(true);
+    m_ui->PWhichCnt->setChecked(Shared().WhichCnt == CountMode::TimesDrawn);
+    m_ui->ChkDBPicks->setChecked(m_allowFewerPicks);
+}
+
 void Lottery::ShowCount()
 {
     m_ui->PWhichCnt->setText(Shared().WhichCnt == CountMode::TimesDrawn
@@ -327,11 +346,22 @@ void Lottery::ShowCount()
                                  : u" Database: No. draws since last drawn"_s);
 }
 
+void Lottery::SwitchHelp()
+{
+    ShowHelp(m_ui->PTextBox->isHidden());
+}
+
 void Lottery::ShowHelp(bool opens)
 {
+    if (m_ui->PTextBox->hasFocus()) {
+        m_ui->PHelp->setFocus(Qt::OtherFocusReason);
+    }
     m_ui->PTextBox->setVisible(opens);
     m_ui->GridArea->setVisible(!opens);
     m_ui->PHelp->setText(opens ? u"Close &Help"_s : u"Quick &Help"_s);
+    if (opens) {
+        m_ui->PTextBox->setFocus(Qt::OtherFocusReason); // so that the keys scroll it
+    }
 }
 
 void Lottery::Calculate()
@@ -362,10 +392,9 @@ void Lottery::Calculate()
 void Lottery::PickSets(const PickEntries& entries)
 {
     m_picks = int(entries.picks);
+    m_calculatedPicks = m_picks;
     m_setCount = int(entries.sets);
-    if (!HoldsOnePick()) {
-        m_ui->PGrid->Sets().SetRed(false);
-    }
+    m_ui->PGrid->Sets().SetRed(HoldsOnePick()); // the database may have changed the picks
     ShapeGrid(kGridRows);
     if (!ListCandidates(entries)) {
         ChooseFullRange();
@@ -421,6 +450,7 @@ void Lottery::SelectAll()
     }
     const int highest = int(checked.entries.highest);
     m_picks = int(checked.entries.picks);
+    m_calculatedPicks = m_picks;
     Shared().CandidateNumbers = FullRange(highest);
     ClearDisplay();
     m_setCount = SetsForAllNumbers(highest, m_picks);
@@ -488,7 +518,8 @@ void Lottery::Print()
         return;
     }
     PrintOnRequest(Shared(), Asking(), u"Selectorium"_s, [this](Printout& printout) {
-        PrintSets(printout, m_pickedFrom, Shared().CandidateNumbers, Shared().PickTable, m_picks, m_setCount);
+        PrintSets(printout, m_pickedFrom, Shared().CandidateNumbers, Shared().PickTable, m_calculatedPicks,
+                  m_setCount);
     });
 }
 

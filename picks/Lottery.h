@@ -57,7 +57,11 @@ private:
     void ChooseFullRange();
     void ChooseSortedPositions();
     void ChooseCount();
+    void ChooseFewerPicks();
+    /// Lets the option buttons and check boxes show what is chosen, after a press that was refused.
+    void ShowChoices();
     void ShowCount();
+    void SwitchHelp();
     void ShowHelp(bool opens);
 
     void Calculate();
@@ -76,8 +80,9 @@ private:
     InputPause m_pause; ///< while the balls roll
     PickMode m_pickMode = PickMode::None;
     bool m_allowFewerPicks = false;
-    int m_picks = 0;       ///< numbers of a set, as last calculated or typed
-    int m_setCount = 0;    ///< sets of the last calculation
-    QString m_pickedFrom;  ///< heading of the last calculation
-    QString m_fromNumbers; ///< what the last calculation picked from
+    int m_picks = 0;           ///< numbers of a set, as last calculated or typed
+    int m_calculatedPicks = 0; ///< numbers of a set of the last calculation, which is what is printed
+    int m_setCount = 0;        ///< sets of the last calculation
+    QString m_pickedFrom;      ///< heading of the last calculation
+    QString m_fromNumbers;     ///< what the last calculation picked from
 };
