@@ -10,9 +10,14 @@
 
 namespace {
 
+bool EndsLine(char byte)
+{
+    return byte == '\r' || byte == '\n';
+}
+
 bool IsSeparator(char byte)
 {
-    return byte == ',' || byte == '\r' || byte == '\n';
+    return byte == ',' || EndsLine(byte);
 }
 
 bool IsBlank(char byte)
@@ -30,7 +35,8 @@ QByteArrayView WithoutTrailingBlanks(QByteArrayView bytes)
 
 } // namespace
 
-FieldReader::FieldReader(const QByteArray& bytes) : m_bytes(bytes)
+FieldReader::FieldReader(const QByteArray& bytes, QuotedText quotedText)
+    : m_bytes(bytes), m_quotedText(quotedText)
 {
     constexpr QByteArrayView kUtf8Mark("\xEF\xBB\xBF");
     if (m_bytes.startsWith(kUtf8Mark)) {
@@ -61,20 +67,30 @@ void FieldReader::SkipToSeparator()
     }
 }
 
+Field FieldReader::NextQuoted()
+{
+    const qsizetype begin = m_place + 1;
+    const auto last = m_quotedText == QuotedText::SpansLines
+                          ? m_bytes.cend()
+                          : std::find_if(m_bytes.cbegin() + begin, m_bytes.cend(), EndsLine);
+    const auto quote = std::find(m_bytes.cbegin() + begin, last, '"');
+    const qsizetype end = std::distance(m_bytes.cbegin(), quote);
+    m_quoteWasLeftOpen = quote == last;
+    m_place = m_quoteWasLeftOpen ? end : end + 1;
+    SkipToSeparator(); // what stands behind the closing quote is not part of the field
+    return Field{Field::Kind::Quoted, m_bytes.sliced(begin, end - begin)};
+}
+
 std::optional<Field> FieldReader::Next()
 {
+    m_quoteWasLeftOpen = false;
     SkipBlanks();
     if (m_place >= m_bytes.size()) {
         return std::nullopt;
     }
     const char first = m_bytes.at(m_place);
     if (first == '"') {
-        const qsizetype begin = m_place + 1;
-        const qsizetype quote = m_bytes.indexOf('"', begin);
-        const qsizetype end = quote < 0 ? m_bytes.size() : quote;
-        m_place = quote < 0 ? end : end + 1;
-        SkipToSeparator(); // what stands behind the closing quote is not part of the field
-        return Field{Field::Kind::Quoted, m_bytes.sliced(begin, end - begin)};
+        return NextQuoted();
     }
     const qsizetype begin = m_place;
     const auto separator = std::find_if(m_bytes.cbegin() + begin, m_bytes.cend(), IsSeparator);

@@ -48,12 +48,13 @@ struct LGLOBAL {
 
     // Files
     qint16 fileDialogMode = kFileDialogIdle;
-    QString chosenPath;         ///< full path picked in the file dialog; "" when idle
-    QString programFolder;      ///< where "Personal.Lot", "Sample.Lto" and "Extract.lto" are
-    QString dialogFolder;       ///< folder the file dialog was last in; "" for the current folder
-    QString pdfFolder;          ///< folder a PDF file was last saved in; "" for the current folder
-    QString pdfFileName;        ///< name that is proposed for a PDF file
-    QString investmentFileName; ///< name of the investment statement last opened or saved
+    QString chosenPath;    ///< full path picked in the file dialog; "" when idle
+    QString programFolder; ///< of "Personal.Lot", "Sample.Lto", "Sample.inv", "Extract.lto"
+    QString dialogFolder;  ///< folder the next file dialog opens in: that of the database or statement last
+                           ///< opened, or chosen to save to; "" for the current folder
+    QString pdfFolder;     ///< folder a PDF file was last saved in; "" for the current folder
+    QString pdfFileName;   ///< name that is proposed for a PDF file
+    QString investmentFileName; ///< of the statement last opened or saved; "" once the tracker is left
 
     // Places and pages
     qint32 layoutSize = 6810; ///< 8670 when the main window is taller than 8,500 twips, else 6810
@@ -92,9 +93,9 @@ struct LGLOBAL {
     qint16 ClickedRecord = 0;  ///< record of the grid row last clicked, 0 = none
 
     // The investment statement
-    InvestmentTable InvestmentRows; ///< as typed so far; empty while the statement is not open
-    float InvestmentRowCount = 0;   ///< rows in use after the last calculation or load
-    Currency InvestmentTotal;       ///< of the last calculation or load
+    InvestmentTable InvestmentRows; ///< as typed so far, or as loaded; empty while the tracker is not open
+    float InvestmentRowCount = 0;   ///< in use after the last calculation; as a loaded file says
+    Currency InvestmentTotal;       ///< of the rows that were counted then
     QString insertRowText;          ///< the row number typed into InInvNum; "" after a cancel
 
     // What the world outside says

@@ -4,6 +4,7 @@
 #include "app/LotteryFileCommands.h"
 #include "app/Printing.h"
 #include "app/StartUp.h"
+#include "app/ToolTips.h"
 #include "ui_LotoMenu.h"
 
 #include <QFileInfo>
@@ -102,14 +103,15 @@ void LotoMenu::ShowFileInMemory()
     // A title of any length must not push the window wider or the buttons together; all of it is in the tip.
     constexpr int kMostLines = 3;
     m_ui->InfoLabel->setMaximumHeight(kMostLines * m_ui->InfoLabel->fontMetrics().lineSpacing());
-    m_ui->InfoLabel->setToolTip(database.title.toHtmlEscaped());
+    SetLiteralToolTip(*m_ui->InfoLabel, database.title);
 }
 
 void LotoMenu::OpenNamedFile(const QString& path)
 {
-    Shared().dialogFolder = QFileInfo(path).absolutePath(); // where the user will look for it when saving
     Switcher().HideForm();
-    OpenLotteryFile(Shared(), Asking(), path);
+    if (OpenLotteryFile(Shared(), Asking(), path)) {
+        Shared().dialogFolder = QFileInfo(path).absolutePath(); // where the user will look for it when saving
+    }
     Switcher().ShowForm(FormName::LDbase);
 }
 

@@ -23,8 +23,8 @@ public:
 
     [[nodiscard]] QPoint FrontPlace() const override;
 
-    /// Opens a file without asking for it, as when it is named on the command line, and shows the editor.
-    void OpenNamedFile(const QString& path);
+    /// Opens a lottery database without asking for it and shows the editor.
+    void OpenNamedFile(const QString& path) override;
 
     /// Shows the user's name, or hides its label when there is none.
     void ShowUserName();

@@ -52,14 +52,14 @@ void EndFileDialog(LGLOBAL& shared)
 
 } // namespace
 
-void OpenLotteryFile(LGLOBAL& shared, Prompts& prompts, const QString& path)
+bool OpenLotteryFile(LGLOBAL& shared, Prompts& prompts, const QString& path)
 {
     constexpr int kOldFormat = 16;
     prompts.SetBusyPointer(true);
     QByteArray bytes;
     if (const Outcome read = ReadFileBytes(path, bytes); !read.ok) {
         RefuseFile(shared, prompts, read.reason);
-        return;
+        return false;
     }
     LotteryReading reading = ReadLotteryFile(bytes, LotteryLayout::Current, shared.locale);
     if (!reading.content) {
@@ -70,19 +70,22 @@ void OpenLotteryFile(LGLOBAL& shared, Prompts& prompts, const QString& path)
         reading = ReadLotteryFile(bytes, LotteryLayout::Older, shared.locale);
         if (!reading.content) {
             RefuseFile(shared, prompts, asCurrent);
-            return;
+            return false;
         }
         prompts.SetBusyPointer(true);
     }
     ReplaceDatabase(shared.database, std::move(*reading.content), QFileInfo(path).fileName());
+    return true;
 }
 
 void LoadFile(LGLOBAL& shared, Prompts& prompts)
 {
+    const QString folderBefore = shared.dialogFolder;
     shared.fileDialogMode = kOpenLotteryFile;
     prompts.FileDirectory();
-    if (shared.fileDialogMode != kFileDialogCancelled) {
-        OpenLotteryFile(shared, prompts, shared.chosenPath);
+    if (shared.fileDialogMode != kFileDialogCancelled &&
+        !OpenLotteryFile(shared, prompts, shared.chosenPath)) {
+        shared.dialogFolder = folderBefore;
     }
     EndFileDialog(shared);
 }

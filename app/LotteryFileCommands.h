@@ -5,7 +5,8 @@
 
 #include <QString>
 
-/// Asks for a lottery database file and opens it. A cancelled dialog leaves the open database as it is.
+/// Asks for a lottery database file and opens it. A cancelled dialog leaves the open database as it is. After
+/// a failure the next dialog opens in the folder it would have opened in before.
 void LoadFile(LGLOBAL& shared, Prompts& prompts);
 
 /// Opens a lottery database file in the place of the open database.
@@ -13,7 +14,8 @@ void LoadFile(LGLOBAL& shared, Prompts& prompts);
 /// A file of the older layout is opened after message 16. A file that cannot be read in either gives
 /// message 13 and leaves the empty database, with the shape that was there before, and nothing to save.
 /// The busy pointer stays on after a success until the editor is there.
-void OpenLotteryFile(LGLOBAL& shared, Prompts& prompts, const QString& path);
+/// @return whether it was opened.
+bool OpenLotteryFile(LGLOBAL& shared, Prompts& prompts, const QString& path);
 
 /// Asks where to save the open database and saves it. Without records message 15, after a failure message 14;
 /// an old file is whole then.

@@ -1,5 +1,6 @@
 #include "app/MDIContainer.h"
 
+#include "app/FileNames.h"
 #include "app/Twips.h"
 
 #include <QCloseEvent>
@@ -111,6 +112,16 @@ bool MDIContainer::RunDialog(FormName name)
     HideForm();
     runner->second(*this, this);
     return true;
+}
+
+void MDIContainer::OpenNamedFile(const QString& path)
+{
+    if (IsStatementFileName(path)) {
+        ShowForm(FormName::LInvTrack);
+        m_active->OpenNamedFile(path);
+    } else {
+        m_menu->OpenNamedFile(path);
+    }
 }
 
 void MDIContainer::HideForm()

@@ -33,6 +33,9 @@ public:
     /// desktop's font needs more.
     void Start();
 
+    /// Opens a file that was named outside, in the form that its name belongs to: the tracker or the editor.
+    void OpenNamedFile(const QString& path);
+
     [[nodiscard]] LotoMenu& Menu() { return *m_menu; }
     [[nodiscard]] WorkingForm* ActiveForm() { return m_active; }
     [[nodiscard]] const WorkingForm* ActiveForm() const { return m_active; }

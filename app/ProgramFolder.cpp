@@ -8,9 +8,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QString PlaceOf(const QString& sample, const QDir& folder)
+{
+    return folder.filePath(QFileInfo(sample).fileName());
+}
+
+/// Never over a file that is there.
 void CopySample(const QString& sample, const QDir& folder)
 {
-    const QString copy = folder.filePath(QFileInfo(sample).fileName());
+    const QString copy = PlaceOf(sample, folder);
     if (QFile::copy(sample, copy)) {
         // A copy of a file compiled into the program would be read-only.
         QFile::setPermissions(copy,
@@ -26,7 +32,10 @@ QString ChooseProgramFolder(const ProgramFolderChoice& choice, const QStringList
         return QDir(choice.executableFolder).absolutePath();
     }
     const QDir folder(QDir(choice.asked.isEmpty() ? choice.dataFolder : choice.asked).absolutePath());
-    if (!folder.exists() && folder.mkpath(u"."_s)) {
+    const bool isNew = !folder.exists() && folder.mkpath(u"."_s);
+    const bool isOfAnEarlierVersion =
+        choice.asked.isEmpty() && !samples.isEmpty() && QFileInfo::exists(PlaceOf(samples.front(), folder));
+    if (isNew || isOfAnEarlierVersion) {
         for (const QString& sample : samples) {
             CopySample(sample, folder);
         }

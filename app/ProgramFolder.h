@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-/// Where the program keeps "Personal.Lot", "Sample.Lto" and "Extract.lto".
+/// Where the program keeps "Personal.Lot", "Sample.Lto", "Sample.inv" and "Extract.lto".
 struct ProgramFolderChoice {
     QString executableFolder; ///< taken when it can be written
     QString dataFolder;       ///< the user's own, taken otherwise
@@ -11,6 +11,9 @@ struct ProgramFolderChoice {
 };
 
 /// The absolute path of the program folder. The user's data folder and a folder asked for are made when they
-/// are not there; a folder made here for the first time receives a copy of each
-/// sample, under its own name.
+/// are not there; a folder made here for the first time receives a copy of each sample, under its own name.
+///
+/// @param samples  the first of them marks a data folder as one made by an earlier version: as long as it is
+///                 there, the others that are missing are put beside it. They cannot be told from samples
+///                 that the user threw away.
 [[nodiscard]] QString ChooseProgramFolder(const ProgramFolderChoice& choice, const QStringList& samples);

@@ -19,6 +19,9 @@ public:
     /// Brings the form to its first state. Called each time it is opened, before it is shown.
     virtual void Load() = 0;
 
+    /// Opens a file that was named outside, as on the command line. A form without files does nothing.
+    virtual void OpenNamedFile(const QString& path) { Q_UNUSED(path) }
+
     /// Asked before the program ends while the form is shown: a form that holds what is not saved asks the
     /// user.
     /// @return false when the user wants to go back.

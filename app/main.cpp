@@ -3,6 +3,7 @@
 #include "app/ChangeFnt.h"
 #include "app/DatabaseReport.h"
 #include "app/DialogPrompts.h"
+#include "app/FileNames.h"
 #include "app/LGLOBAL.h"
 #include "app/MDIContainer.h"
 #include "app/PictureTour.h"
@@ -64,7 +65,8 @@ CommandLine ReadCommandLine(const QStringList& arguments)
     const QCommandLineOption folder(u"folder"_s, u"Keep settings and samples in <dir>."_s, u"dir"_s);
     const QCommandLineOption tour(u"tour"_s, u"Save a picture of each form in <dir> and end."_s, u"dir"_s);
     parser.addOptions({folder, tour});
-    parser.addPositionalArgument(u"file"_s, u"The lottery database to open."_s, u"[file]"_s);
+    parser.addPositionalArgument(u"file"_s, u"The lottery database or investment statement to open."_s,
+                                 u"[file]"_s);
 
     CommandLine line;
     if (!parser.parse(arguments)) {
@@ -149,10 +151,11 @@ public:
 int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const CommandLine& line)
 {
     QApplication::setStyle(new StillStyle); // the application's from now on
-    window.Menu().OpenNamedFile(line.file.isEmpty() ? kSample : line.file);
+    const bool isStatement = IsStatementFileName(line.file);
+    window.OpenNamedFile(line.file.isEmpty() || isStatement ? kSample : line.file);
     window.ShowForm(FormName::LotoMenu);
-    const auto openStatement = [](WorkingForm& form) {
-        dynamic_cast<LInvTrack&>(form).OpenNamedFile(kSampleStatement);
+    const auto openStatement = [statement = isStatement ? line.file : kSampleStatement](WorkingForm& form) {
+        form.OpenNamedFile(statement);
     };
     const auto typeNumbers = [](WorkingForm& form) {
         int box = 0;
@@ -245,7 +248,7 @@ int main(int argc, char* argv[])
         return TakeTour(shared, prompts, window, line);
     }
     if (!line.file.isEmpty()) {
-        QTimer::singleShot(0, &window, [&] { window.Menu().OpenNamedFile(line.file); });
+        QTimer::singleShot(0, &window, [&] { window.OpenNamedFile(line.file); });
     }
     return QApplication::exec();
 }

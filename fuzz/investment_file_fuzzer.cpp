@@ -43,6 +43,16 @@ void CheckCalculating(const InvestmentStatement& statement)
     }
 }
 
+/// What says of itself that it is calculated has the total that calculating gives.
+void CheckCalculated(const InvestmentReading& reading)
+{
+    if (reading.isCalculated) {
+        const std::optional<InvestmentStatement> calculated = CalculateStatement(reading.statement->rows);
+        FUZZ_CHECK(calculated && calculated->total == reading.statement->total);
+        FUZZ_CHECK(calculated->rowCount == reading.statement->rowCount);
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size)
@@ -54,6 +64,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
         CheckSound(*reading.statement);
         CheckWriting(*reading.statement);
         CheckCalculating(*reading.statement);
+        CheckCalculated(reading);
     }
     return 0;
 }

@@ -56,7 +56,7 @@ std::optional<Currency> TotalOf(const InvestmentTable& rows, int count)
     std::optional<Currency> total = Currency();
     for (int row = 1; row <= count && total; ++row) {
         const InvestmentRow& item = rows.at(static_cast<std::size_t>(row));
-        if (!IsSubTotal(item.description)) {
+        if (!item.description.isEmpty() && !IsSubTotal(item.description)) {
             total = Sum(*total, item.amount.value_or(Currency()));
         }
     }

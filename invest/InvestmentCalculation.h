@@ -13,8 +13,8 @@
 /// @return nothing when a sum on the way is beyond the range of Currency.
 [[nodiscard]] std::optional<InvestmentStatement> CalculateStatement(const InvestmentTable& rows);
 
-/// The sum of the amounts in rows 1..count but those of "Sub Total" rows; nothing when it is beyond the range
-/// of Currency.
+/// What CalculateStatement counts in rows 1..count: the sum of the amounts but those of "Sub Total" rows and
+/// of rows without a description; nothing when it is beyond the range of Currency.
 [[nodiscard]] std::optional<Currency> TotalOf(const InvestmentTable& rows, int count);
 
 /// Puts a row with the description "BlankLine" and no amount at @p row; the rows from there on move down by

@@ -12,36 +12,65 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The text that stands there; a double quote, which only a damaged file has in it, could not be written.
-QString DescriptionOf(const FieldReader& fields, const Field& field)
+/// Reads one file front to back.
+class StatementReader
 {
-    return fields.Text(field).remove(u'"');
-}
+public:
+    explicit StatementReader(const QByteArray& bytes) : m_fields(bytes, QuotedText::EndsWithLine) {}
 
-std::optional<Currency> AmountOf(const FieldReader& fields, const Field& field)
-{
-    if (field.kind == Field::Kind::Dated) {
-        return std::nullopt;
+    InvestmentTable Rows()
+    {
+        InvestmentTable rows;
+        for (auto row = rows.begin() + 1; row != rows.end(); ++row) {
+            const std::optional<Field> description = m_fields.Next();
+            if (!description) {
+                return rows;
+            }
+            row->description = Description(*description);
+            if (m_fields.QuoteWasLeftOpen()) {
+                m_hasDoubtfulRows = true; // the line is over, and its amount with it
+                continue;
+            }
+            const std::optional<Field> amount = m_fields.Next();
+            if (!amount) {
+                m_hasDoubtfulRows = m_hasDoubtfulRows || !row->description.isEmpty();
+                return rows;
+            }
+            row->amount = Amount(*amount);
+        }
+        return rows;
     }
-    const QString text = fields.Text(field);
-    return LeadingNumber(text).isEmpty() ? std::nullopt : Currency::FromText(text);
-}
 
-void ReadRows(FieldReader& fields, InvestmentTable& rows)
-{
-    for (auto row = rows.begin() + 1; row != rows.end(); ++row) {
-        const std::optional<Field> description = fields.Next();
-        if (!description) {
-            return;
-        }
-        row->description = DescriptionOf(fields, *description);
-        const std::optional<Field> amount = fields.Next();
-        if (!amount) {
-            return;
-        }
-        row->amount = AmountOf(fields, *amount);
+    std::optional<double> Count()
+    {
+        const std::optional<Field> first = m_fields.Next();
+        return first ? FieldNumber(*first) : std::nullopt;
     }
-}
+
+    /// Whether a row was read that was not saved as it was read.
+    [[nodiscard]] bool HasDoubtfulRows() const { return m_hasDoubtfulRows; }
+
+private:
+    /// The text that stands there; a double quote, which only a damaged file has in it, could not be written.
+    [[nodiscard]] QString Description(const Field& field) const { return m_fields.Text(field).remove(u'"'); }
+
+    std::optional<Currency> Amount(const Field& field)
+    {
+        if (field.bytes.isEmpty()) {
+            return std::nullopt;
+        }
+        const QString text = m_fields.Text(field);
+        const bool isOne = field.kind != Field::Kind::Dated && !LeadingNumber(text).isEmpty();
+        // "-12.50" cut to "-1" looks whole, so what the end of the file cut is not taken.
+        const std::optional<Currency> amount =
+            isOne && !m_fields.EndedByFileEnd() ? Currency::FromText(text) : std::nullopt;
+        m_hasDoubtfulRows = m_hasDoubtfulRows || !amount || !FieldNumber(field);
+        return amount;
+    }
+
+    FieldReader m_fields;
+    bool m_hasDoubtfulRows = false;
+};
 
 /// A damaged count hides no row and adds none.
 int CountedRows(std::optional<double> announced, int lastInUse)
@@ -51,22 +80,35 @@ int CountedRows(std::optional<double> announced, int lastInUse)
     return possible ? std::min(static_cast<int>(*announced), lastInUse) : lastInUse;
 }
 
+bool AreTheRows(const InvestmentTable& rows, const InvestmentTable& others)
+{
+    return std::equal(rows.begin(), rows.begin() + kMostStatementRows + 1, others.begin());
+}
+
+bool HasLineBreak(const QString& text)
+{
+    return text.contains(u'\r') || text.contains(u'\n');
+}
+
 } // namespace
 
 InvestmentReading ReadInvestmentFile(const QByteArray& bytes)
 {
-    FieldReader fields(bytes);
-    const std::optional<Field> first = fields.Next();
+    StatementReader reader(bytes);
     InvestmentStatement statement;
-    ReadRows(fields, statement.rows);
-    const int count = CountedRows(first ? FieldNumber(*first) : std::nullopt, LastRowInUse(statement.rows));
+    const std::optional<double> announced = reader.Count();
+    statement.rows = reader.Rows();
+    const int count = CountedRows(announced, LastRowInUse(statement.rows));
     statement.rowCount = static_cast<float>(count);
     const std::optional<Currency> total = TotalOf(statement.rows, count);
     if (!total) {
         return {std::nullopt, u"The amounts of the file add up to more than a statement can hold."_s};
     }
     statement.total = *total;
-    return {std::move(statement), {}};
+    const std::optional<InvestmentStatement> calculated = CalculateStatement(statement.rows);
+    const bool isCalculated = calculated && announced == calculated->rowCount &&
+                              AreTheRows(calculated->rows, statement.rows) && !reader.HasDoubtfulRows();
+    return {std::move(statement), {}, isCalculated};
 }
 
 Outcome WriteInvestmentFile(const InvestmentStatement& statement, QByteArray& bytes)
@@ -76,6 +118,9 @@ Outcome WriteInvestmentFile(const InvestmentStatement& statement, QByteArray& by
     writer.EndLine();
     for (std::size_t row = 1; row < statement.rows.size(); ++row) {
         const InvestmentRow& item = statement.rows.at(row);
+        if (HasLineBreak(item.description)) {
+            return Outcome::Failure(u"The description in row %1 has a line break."_s.arg(row));
+        }
         if (item.description.isEmpty()) {
             writer.Nothing();
         } else {

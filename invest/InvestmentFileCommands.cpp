@@ -1,7 +1,7 @@
 #include "invest/InvestmentFileCommands.h"
 
+#include "app/FileNames.h"
 #include "app/SafeFile.h"
-#include "invest/InvestmentFile.h"
 
 #include <QFileInfo>
 
@@ -29,8 +29,17 @@ void Remember(LGLOBAL& shared, const QString& path)
     shared.investmentFileName = QFileInfo(path).fileName();
 }
 
+/// Refused without a reason: the message itself says what is wrong with the name.
+Outcome CheckName(const QString& path)
+{
+    return IsStatementFileName(path) ? Outcome() : Outcome::Failure({});
+}
+
 Outcome ReadAt(const QString& path, InvestmentReading& reading)
 {
+    if (Outcome name = CheckName(path); !name.ok) {
+        return name;
+    }
     QByteArray bytes;
     if (Outcome read = ReadFileBytes(path, bytes); !read.ok) {
         return read;
@@ -41,6 +50,9 @@ Outcome ReadAt(const QString& path, InvestmentReading& reading)
 
 Outcome WriteAt(const QString& path, const InvestmentStatement& statement)
 {
+    if (Outcome name = CheckName(path); !name.ok) {
+        return name;
+    }
     QByteArray bytes;
     const Outcome written = WriteInvestmentFile(statement, bytes);
     return written.ok ? SaveFileBytes(path, bytes) : written;
@@ -48,25 +60,35 @@ Outcome WriteAt(const QString& path, const InvestmentStatement& statement)
 
 } // namespace
 
-std::optional<InvestmentStatement> ReadInvestmentFileAt(LGLOBAL& shared, Prompts& prompts,
-                                                        const QString& path)
+InvestmentReading ReadInvestmentFileAt(LGLOBAL& shared, Prompts& prompts, const QString& path,
+                                       const std::function<bool()>& mayReplace)
 {
     InvestmentReading reading;
     if (const Outcome read = ReadAt(path, reading); !read.ok) {
         Show(shared, prompts, {.number = kBadFileName, .reason = read.reason});
-        return std::nullopt;
+        return {};
+    }
+    if (!mayReplace()) {
+        return {};
     }
     Remember(shared, path);
-    return reading.statement;
+    shared.dialogFolder = QFileInfo(path).absolutePath();
+    return reading;
 }
 
-std::optional<InvestmentStatement> OpenInvestmentFile(LGLOBAL& shared, Prompts& prompts)
+InvestmentReading OpenInvestmentFile(LGLOBAL& shared, Prompts& prompts,
+                                     const std::function<bool()>& mayReplace)
 {
-    const bool chosen = AskForFile(shared, prompts, kOpenInvestmentFile);
-    std::optional<InvestmentStatement> statement =
-        chosen ? ReadInvestmentFileAt(shared, prompts, shared.chosenPath) : std::nullopt;
+    const QString folderBefore = shared.dialogFolder;
+    InvestmentReading reading;
+    if (AskForFile(shared, prompts, kOpenInvestmentFile)) {
+        reading = ReadInvestmentFileAt(shared, prompts, shared.chosenPath, mayReplace);
+    }
+    if (!reading.statement) {
+        shared.dialogFolder = folderBefore; // where the statement in memory came from
+    }
     EndFileDialog(shared);
-    return statement;
+    return reading;
 }
 
 bool SaveInvestmentFile(LGLOBAL& shared, Prompts& prompts, const InvestmentStatement& statement)

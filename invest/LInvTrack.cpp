@@ -8,9 +8,11 @@
 #include "invest/InvestmentFileCommands.h"
 #include "invest/InvestmentHelp.h"
 #include "invest/InvestmentPrintout.h"
+#include "invest/LostAmounts.h"
 #include "ui_LInvTrack.h"
 
 #include <QHeaderView>
+#include <QItemSelectionModel>
 
 #include <algorithm>
 
@@ -58,11 +60,13 @@ void LInvTrack::SetUpGrid()
     connect(m_ui->IGrid, &StatementView::BackspacePressed, this,
             [this] { TypedInto(m_typing.Backspace(Place())); });
     connect(m_ui->IGrid, &StatementView::EnterPressed, this, &LInvTrack::EnterPressed);
+    connect(m_ui->IGrid->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex&, const QModelIndex& left) { m_typing.LeaveRow(left.row() + 1); });
 }
 
 void LInvTrack::ConnectCommands()
 {
-    Events().OnClick(m_ui->ICalc, [this] { Calculate(Shared().InvestmentRows); });
+    Events().OnClick(m_ui->ICalc, [this] { Calculate(); });
     Events().OnClick(m_ui->InsertAss, [this] { InsertLine(); });
     Events().OnClick(m_ui->IOpenFile, [this] { OpenFile(); });
     Events().OnClick(m_ui->ISaveFile, [this] { SaveFile(); });
@@ -75,6 +79,7 @@ void LInvTrack::Load()
 {
     Switcher().SetCaption(u" Investment Tracker"_s);
     Take({});
+    ShowHelp(false);
     m_model.BuildEmpty(); // the Total comes with the first calculation
     m_changed = false;
     GoTo({.row = 1});
@@ -145,7 +150,6 @@ void LInvTrack::Rebuild()
     m_typing.Forget();
     m_model.Build(static_cast<int>(Shared().InvestmentRowCount));
     WidenAmounts();
-    ShowHelp(false);
     m_ui->IChange->hide();
     GoTo({.row = std::max(place.row, 1), .column = place.column});
 }
@@ -155,13 +159,15 @@ std::optional<InvestmentStatement> LInvTrack::CountTyped() const
     return m_uncounted ? CalculateStatement(Shared().InvestmentRows) : m_counted;
 }
 
-void LInvTrack::Calculate(const InvestmentTable& rows)
+void LInvTrack::Calculate()
 {
-    if (const std::optional<InvestmentStatement> statement = CalculateStatement(rows)) {
+    if (const std::optional<InvestmentStatement> statement = CalculateStatement(Shared().InvestmentRows)) {
         Take(*statement);
+        ShowHelp(false);
     } else {
         TellCannotCalculate();
     }
+    m_ui->IGrid->setFocus();
 }
 
 void LInvTrack::TellCannotCalculate()
@@ -170,42 +176,74 @@ void LInvTrack::TellCannotCalculate()
          {.number = kCannotCalculate, .reason = u"The amounts add up to more than a statement can hold."_s});
 }
 
+/// Calculating drops an amount without a description. Where the user did not ask for that, he is told
+/// instead, and brought to the place.
+bool LInvTrack::KeepsAllAmounts()
+{
+    const std::vector<int> lost = RowsThatLoseTheirAmount(Shared().InvestmentRows);
+    if (lost.empty()) {
+        return true;
+    }
+    Asking().Notice(LostAmountsText(lost));
+    GoTo({.row = lost.front()});
+    return false;
+}
+
 void LInvTrack::InsertLine()
 {
+    m_ui->IGrid->setFocus();
+    if (!KeepsAllAmounts()) {
+        return;
+    }
     InInvNum(Shared(), Place().row, window()).exec();
     InvestmentTable rows = Shared().InvestmentRows;
     const double row = Val(Shared().insertRowText);
     if (!InsertBlankLine(rows, row)) {
         return;
     }
+    const std::optional<InvestmentStatement> statement = CalculateStatement(rows);
+    if (!statement) {
+        TellCannotCalculate();
+        return;
+    }
+    Take(*statement);
+    ShowHelp(false);
     m_changed = true;
-    Calculate(rows);
     GoTo({.row = RowOnceCalculated(rows, static_cast<int>(row))});
-    m_ui->IGrid->setFocus();
 }
 
 void LInvTrack::OpenNamedFile(const QString& path)
 {
-    TakeLoaded(ReadInvestmentFileAt(Shared(), Asking(), path));
+    TakeLoaded(ReadInvestmentFileAt(Shared(), Asking(), path, [this] { return MayBeReplaced(); }));
 }
 
 void LInvTrack::OpenFile()
 {
-    TakeLoaded(OpenInvestmentFile(Shared(), Asking()));
+    TakeLoaded(OpenInvestmentFile(Shared(), Asking(), [this] { return MayBeReplaced(); }));
 }
 
-void LInvTrack::TakeLoaded(const std::optional<InvestmentStatement>& statement)
+void LInvTrack::TakeLoaded(const InvestmentReading& loaded)
 {
-    if (statement) {
-        Take(*statement);
-        m_changed = false;
-        GoTo({.row = 1});
-        m_ui->IGrid->setFocus();
+    m_ui->IGrid->setFocus();
+    if (!loaded.statement) {
+        return;
     }
+    Take(*loaded.statement);
+    m_changed = false;
+    if (!loaded.isCalculated) {
+        m_counted = CalculateStatement(loaded.statement->rows).value_or(*loaded.statement);
+        m_uncounted = true;
+        m_ui->IChange->show();
+    }
+    GoTo({.row = 1});
 }
 
 void LInvTrack::SaveFile()
 {
+    m_ui->IGrid->setFocus();
+    if (!KeepsAllAmounts()) {
+        return;
+    }
     const std::optional<InvestmentStatement> statement = CountTyped();
     if (!statement) {
         TellCannotCalculate();
@@ -240,11 +278,16 @@ void LInvTrack::ShowHelp(bool opens)
     m_ui->IHelp->setText(opens ? u"Close &Help"_s : u"Quick &Help"_s);
 }
 
+bool LInvTrack::MayBeReplaced()
+{
+    const bool somethingToLose =
+        Shared().InvestmentRowCount != 0 || LastRowInUse(Shared().InvestmentRows) != 0;
+    return !m_changed || !somethingToLose || !Ask(Shared(), Asking(), kGoBackAndSave);
+}
+
 bool LInvTrack::MayClose()
 {
-    const std::optional<InvestmentStatement> statement = CountTyped();
-    const bool nothingToSave = statement && statement->rowCount == 0;
-    return !m_changed || nothingToSave || !Ask(Shared(), Asking(), kGoBackAndSave);
+    return MayBeReplaced();
 }
 
 void LInvTrack::Exit()

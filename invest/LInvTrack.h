@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/WorkingForm.h"
+#include "invest/InvestmentFile.h"
 #include "invest/StatementModel.h"
 #include "invest/StatementTyping.h"
 
@@ -23,11 +24,12 @@ public:
     /// Begins with an empty statement.
     void Load() override;
 
-    /// Asks question 5 when something was changed and not saved, and there are rows to save.
+    /// Asks question 5 when something was changed and not saved, and there is anything to lose: counted rows,
+    /// or a cell in use.
     [[nodiscard]] bool MayClose() override;
 
     /// Opens a file without asking for it.
-    void OpenNamedFile(const QString& path);
+    void OpenNamedFile(const QString& path) override;
 
 private:
     void SetUpGrid();
@@ -39,7 +41,7 @@ private:
     void EnterPressed();
     void WidenAmounts();
 
-    void Calculate(const InvestmentTable& rows);
+    void Calculate();
     void InsertLine();
     void OpenFile();
     void SaveFile();
@@ -48,8 +50,10 @@ private:
     void Exit();
 
     void Take(const InvestmentStatement& statement);
-    void TakeLoaded(const std::optional<InvestmentStatement>& statement);
+    void TakeLoaded(const InvestmentReading& loaded);
     void Rebuild();
+    [[nodiscard]] bool MayBeReplaced();
+    [[nodiscard]] bool KeepsAllAmounts();
     void TellCannotCalculate();
     [[nodiscard]] std::optional<InvestmentStatement> CountTyped() const;
     [[nodiscard]] QString PrintHeading() const;
@@ -57,7 +61,7 @@ private:
     std::unique_ptr<Ui::LInvTrack> m_ui;
     StatementModel m_model;
     StatementTyping m_typing;
-    InvestmentStatement m_counted; ///< as it was last calculated or loaded: what is printed
-    bool m_uncounted = false;      ///< something was typed since
+    InvestmentStatement m_counted; ///< as it was last calculated: what is printed
+    bool m_uncounted = false;      ///< the rows are not as that left them: typed since, or a file's own
     bool m_changed = false;        ///< something was changed since the last load or save
 };

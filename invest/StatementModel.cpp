@@ -1,6 +1,7 @@
 #include "invest/StatementModel.h"
 
 #include "app/TextPictures.h"
+#include "app/ToolTips.h"
 #include "invest/InvestmentCalculation.h"
 
 #include <QFont>
@@ -83,7 +84,7 @@ QVariant StatementModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return CellText(row, index.column());
     case Qt::ToolTipRole: // a long description is cut at the edge of its cell
-        return index.column() == DescriptionColumn ? CellText(row, DescriptionColumn).toHtmlEscaped()
+        return index.column() == DescriptionColumn ? LiteralToolTip(CellText(row, DescriptionColumn))
                                                    : QString();
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::AlignVCenter |

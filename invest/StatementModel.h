@@ -8,7 +8,9 @@
 /// statement where it is.
 ///
 /// There is a row for each of the 105, and three more, so that two rows stay empty before the Total of a full
-/// statement. What was typed since the last calculation is shown as it stands, with the Total as it was.
+/// statement. Rows beyond those that are counted, typed since or of a damaged file, are shown as they stand,
+/// with the Total as it was; it stands three rows below the last counted one, or, where that row is taken,
+/// three below the last in use.
 class StatementModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -20,7 +22,7 @@ public:
 
     /// The heading alone, and empty rows.
     void BuildEmpty();
-    /// The statement and, three rows below its last, the Total.
+    /// The statement with its Total. @param rowCount  of the counted rows
     void Build(int rowCount);
     /// A cell of the statement was typed into. A Total that stood in its row moves below all that was typed.
     /// @param row  1..105

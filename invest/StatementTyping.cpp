@@ -113,6 +113,13 @@ QString StatementTyping::Figures(int row) const
     return !typed.isEmpty() && Currency::FromText(typed) == amount ? typed : amount->Plain();
 }
 
+void StatementTyping::LeaveRow(int row)
+{
+    if (row >= 1 && row <= kMostStatementRows) {
+        m_figures.at(static_cast<std::size_t>(row)).clear();
+    }
+}
+
 void StatementTyping::Forget()
 {
     m_figures.fill({});

@@ -28,8 +28,9 @@ enum class Typed {
 /// Typing straight into the cells of a statement, character by character.
 ///
 /// A description takes what a file can hold, at its end. An amount is typed as figures, minus signs and
-/// points, whose leading number it is: "5-" is 5, and "-", "." and "--5" are 0. Later figures go behind those
-/// that were typed, not behind the two decimals that are shown.
+/// points, whose leading number it is: "5-" is 5, and "-", "." and "--5" are 0. Further figures go behind
+/// those that were typed, not behind the two decimals that are shown; once the cell was left, behind those
+/// that the amount needs.
 class StatementTyping
 {
 public:
@@ -40,6 +41,10 @@ public:
 
     /// Takes the last character away. An amount without figures is an empty cell.
     Typed Backspace(const StatementPlace& place);
+
+    /// The row's amount is left: figures that change nothing behind it ("-12-24") are forgotten, so that
+    /// later ones, and Backspace, go on from the amount as it is. @param row  any number
+    void LeaveRow(int row);
 
     /// The rows were filled anew: nothing has been typed there.
     void Forget();

@@ -45,6 +45,11 @@ private:
     QTableView* m_view;
 };
 
+bool HasCommandKey(const QKeyEvent& key)
+{
+    return (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != Qt::NoModifier;
+}
+
 bool IsCommand(const QKeyEvent& key)
 {
     const Qt::KeyboardModifiers held = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
@@ -81,7 +86,9 @@ void StatementView::keyPressEvent(QKeyEvent* event)
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         Q_EMIT EnterPressed();
     } else if (event->key() == Qt::Key_Backspace) {
-        Q_EMIT BackspacePressed();
+        if (!HasCommandKey(*event)) { // elsewhere Ctrl takes a word away and Alt takes back: not here
+            Q_EMIT BackspacePressed();
+        }
     } else if (!IsCommand(*event) && !text.isEmpty() && text.front().category() != QChar::Other_Control) {
         Q_EMIT Typed(text);
     } else {

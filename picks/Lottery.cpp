@@ -3,6 +3,7 @@
 #include "app/Printing.h"
 #include "app/SharedStatistics.h"
 #include "app/TextPictures.h"
+#include "app/ToolTips.h"
 #include "app/Twips.h"
 #include "picks/PickSets.h"
 #include "picks/PickTexts.h"
@@ -266,7 +267,7 @@ void Lottery::ShowDatabase()
     m_ui->PWhichCnt->setVisible(hasRecords);
     if (hasRecords) {
         m_ui->InfoLabel1->setText(u" File in Memory \r\n  "_s + database.title + u"  "_s);
-        m_ui->InfoLabel1->setToolTip(database.title.toHtmlEscaped());
+        SetLiteralToolTip(*m_ui->InfoLabel1, database.title);
     } else { // an empty database has the shape of the personal settings
         database.highest = settings.defaultHighest;
         database.columns = qint16(settings.defaultPicks + 2);

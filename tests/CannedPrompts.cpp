@@ -1,5 +1,6 @@
 #include "tests/CannedPrompts.h"
 
+#include <QFileInfo>
 #include <gtest/gtest.h>
 
 void CannedPrompts::ShowMessage()
@@ -56,6 +57,7 @@ void CannedPrompts::FileDirectory()
         m_shared.fileDialogMode = kFileDialogCancelled;
     } else {
         m_shared.chosenPath = file;
+        m_shared.dialogFolder = QFileInfo(file).absolutePath(); // where the program's own dialog stands then
     }
 }
 

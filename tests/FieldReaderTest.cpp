@@ -390,3 +390,32 @@ TEST(FieldWriter, FitsFileTextIsTheRangeOfOneByte)
     EXPECT_FALSE(FitsFileText(u"\u0100"));
     EXPECT_FALSE(FitsFileText(u"a\U0001F3B1"));
 }
+
+TEST(FieldReader, AQuotedTextOfALineEndsWithIt)
+{
+    const QByteArray bytes = "\"a,b\",\"open, \r\n\"c\"x,\"\r\"d\nbare\"\n\"last";
+    FieldReader reader(bytes, QuotedText::EndsWithLine);
+    const struct {
+        QString text;
+        bool leftOpen;
+    } fields[] = {{u"a,b"_s, false}, {u"open, "_s, true},  {u"c"_s, false},  {QString(), true},
+                  {u"d"_s, true},    {u"bare\""_s, false}, {u"last"_s, true}};
+    for (const auto& expected : fields) {
+        const std::optional<Field> field = reader.Next();
+        ASSERT_TRUE(field.has_value());
+        EXPECT_EQ(reader.Text(*field), expected.text);
+        EXPECT_EQ(reader.QuoteWasLeftOpen(), expected.leftOpen) << expected.text.toStdString();
+    }
+    EXPECT_FALSE(reader.Next().has_value());
+    EXPECT_TRUE(reader.EndedByFileEnd());
+}
+
+TEST(FieldReader, AQuotedTextThatSpansLinesIsLeftOpenByTheEndOfTheFileAlone)
+{
+    const QByteArray bytes = "\"a\r\nb\",\"c\r\nd";
+    FieldReader reader(bytes);
+    EXPECT_EQ(reader.Text(reader.Next().value()), u"a\r\nb"_s);
+    EXPECT_FALSE(reader.QuoteWasLeftOpen());
+    EXPECT_EQ(reader.Text(reader.Next().value()), u"c\r\nd"_s);
+    EXPECT_TRUE(reader.QuoteWasLeftOpen());
+}

@@ -107,4 +107,25 @@ TEST_F(RowDialog, TheBoxTakesDigitsAlone)
     EXPECT_EQ(refused.count(), 3);
 }
 
+TEST_F(RowDialog, StandsFartherOffInTheLargeLayout)
+{
+    m_shared.layoutSize = 8670;
+    Open(7);
+    EXPECT_EQ(m_dialog->pos(), QPoint(310, 200)) << "4,650 and 3,000 twips";
+}
+
+TEST_F(RowDialog, AClickEmptiesTheBox)
+{
+    Open(7);
+    QTest::mouseClick(&CurVal(), Qt::LeftButton);
+    EXPECT_EQ(CurVal().text(), QString());
+    QTest::keyClicks(&CurVal(), u"12"_s);
+    Press(u"Accept"_s);
+    EXPECT_EQ(m_shared.insertRowText, u"12"_s);
+    Open(7);
+    QTest::mouseClick(&CurVal(), Qt::LeftButton);
+    Press(u"Accept"_s);
+    EXPECT_EQ(m_shared.insertRowText, QString()) << "no row, so nothing is inserted";
+}
+
 } // namespace

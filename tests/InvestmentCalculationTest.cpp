@@ -133,11 +133,12 @@ TEST(InvestmentCalculation, ASumBeyondTheRangeIsNone)
     EXPECT_EQ(TotalOf(Rows({Item(u"a"_s, most), Item(u"b"_s, most)}), 2), std::nullopt);
 }
 
-TEST(InvestmentCalculation, ALoadedTotalLeavesSubTotalsAndUncountedRowsOut)
+TEST(InvestmentCalculation, ALoadedTotalLeavesOutWhatCalculatingLeavesOut)
 {
     const InvestmentTable rows = Rows({Item(u"a"_s, u"3"_s), Item(u"SUB total"_s, u"3"_s),
                                        Item(QString(), u"4"_s), Item(u"b"_s, u"100"_s)});
-    EXPECT_EQ(TotalOf(rows, 3), Money(u"7"_s));
+    EXPECT_EQ(TotalOf(rows, 3), Money(u"3"_s)) << "neither a sub total nor an amount without a description";
+    EXPECT_EQ(TotalOf(rows, 4), CalculateStatement(rows).value().total);
     EXPECT_EQ(TotalOf(rows, 0), Currency());
 }
 

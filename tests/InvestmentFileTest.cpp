@@ -21,6 +21,12 @@ QByteArray FileOf(const QByteArray& lines)
     return bytes;
 }
 
+/// Whether calculating leaves the statement as its file has it.
+bool IsCalculated(const QByteArray& bytes)
+{
+    return ReadInvestmentFile(bytes).isCalculated;
+}
+
 InvestmentStatement Read(const QByteArray& bytes)
 {
     const InvestmentReading reading = ReadInvestmentFile(bytes);
@@ -91,12 +97,13 @@ TEST(InvestmentFile, ReadsBackWhatWasWrittenByteForByte)
     InvestmentTable full = NumberedRows(105);
     full.at(7) = Item(u"Sub Total"_s);
     full.at(8) = Item(QString(500, u'\u00E9'), u"-922337203.6854"_s);
-    full.at(9) = Item(u"a, b\r\nc #4#, d"_s, u"0.0001"_s);
+    full.at(9) = Item(u"a, b #4#, d"_s, u"0.0001"_s);
     for (const InvestmentTable& rows : {Rows({Item(u"one"_s)}), NumberedRows(3), full}) {
         const InvestmentStatement statement = Calculated(rows);
         const QByteArray bytes = Written(statement);
         EXPECT_EQ(Read(bytes), statement);
         EXPECT_EQ(Written(Read(bytes)), bytes);
+        EXPECT_TRUE(IsCalculated(bytes));
     }
 }
 
@@ -125,6 +132,66 @@ TEST(InvestmentFile, EveryCutOfAFileIsReadAsFarAsItGoes)
     EXPECT_EQ(Read("3\r\n\"Tickets\",-12.5\r\n\"Winn").rowCount, 2.0F) << "no more rows than there are";
 }
 
+TEST(InvestmentFile, AnAmountThatTheEndOfTheFileMayHaveCutIsNotTaken)
+{
+    for (const QByteArray cut : {"-12.5", "-12.", "-1", "-", "0", "-12.5  ", "\"5\"", "\"5"}) {
+        const QByteArray bytes = "1\r\n\"Tickets\"," + cut;
+        EXPECT_EQ(Read(bytes).rows, Rows({Item(u"Tickets"_s)})) << cut.toStdString();
+        EXPECT_EQ(Read(bytes).rowCount, 1.0F);
+        EXPECT_FALSE(IsCalculated(bytes)) << cut.toStdString();
+    }
+    for (const QByteArray end : {"\r\n", "\n", "\r", ","}) {
+        const QByteArray bytes = "1\r\n\"Tickets\",-12.5" + end;
+        EXPECT_EQ(Read(bytes).rows, Rows({Item(u"Tickets"_s, u"-12.5"_s)}));
+        EXPECT_TRUE(IsCalculated(bytes));
+    }
+    // Between the two cells the amount is missing, and between two rows it is not.
+    EXPECT_FALSE(IsCalculated("1\r\n\"Tick"));
+    EXPECT_FALSE(IsCalculated("1\r\n\"Tickets\""));
+    EXPECT_FALSE(IsCalculated("1\r\n\"Tickets\","));
+    EXPECT_TRUE(IsCalculated(kThreeRows));
+    EXPECT_TRUE(IsCalculated(kThreeRows.chopped(1)));
+    EXPECT_TRUE(IsCalculated(kThreeRows.chopped(2))) << "only the last line end is missing";
+}
+
+TEST(InvestmentFile, EveryCutInAnAccountIsNoticed)
+{
+    const qsizetype rowsEnd = kThreeRows.indexOf("-2.5\r\n") + 4;
+    for (qsizetype length = 0; length <= rowsEnd; ++length) {
+        EXPECT_FALSE(IsCalculated(kThreeRows.first(length))) << length;
+    }
+}
+
+TEST(InvestmentFile, ADescriptionEndsWithItsLineSoAMissingQuoteMergesNoRows)
+{
+    const QByteArray bytes = FileOf("3\r\n\"Tickets,-12.5\r\n\"Winnings\",10\r\n\"Gift\",1\r\n");
+    const InvestmentStatement statement = Read(bytes);
+    EXPECT_EQ(statement.rows,
+              Rows({Item(u"Tickets,-12.5"_s), Item(u"Winnings"_s, u"10"_s), Item(u"Gift"_s, u"1"_s)}));
+    EXPECT_EQ(statement.rowCount, 3.0F);
+    EXPECT_EQ(statement.total, Money(u"11"_s));
+    EXPECT_FALSE(IsCalculated(bytes)) << "an amount is missing";
+    ExpectSound(statement);
+    for (const QByteArray end : {"\n", "\r"}) {
+        QByteArray other = bytes;
+        EXPECT_EQ(Read(other.replace("\r\n", end)), statement);
+    }
+    EXPECT_EQ(Read("1\r\n\"a\",\"5\r\n\"b\",6\r\n").rows, Rows({Item(u"a"_s, u"5"_s), Item(u"b"_s, u"6"_s)}));
+}
+
+TEST(InvestmentFile, ADescriptionWithALineBreakIsNotWritten)
+{
+    for (const QString& text : {u"a\nb"_s, u"a\r"_s, u"\r\n"_s}) {
+        InvestmentStatement statement = Calculated(NumberedRows(3));
+        statement.rows.at(2).description = text;
+        QByteArray bytes = "untouched";
+        const Outcome written = WriteInvestmentFile(statement, bytes);
+        EXPECT_FALSE(written.ok);
+        EXPECT_TRUE(written.reason.contains(u"row 2"_s)) << written.reason.toStdString();
+        EXPECT_EQ(bytes, "untouched");
+    }
+}
+
 TEST(InvestmentFile, WhatFollowsTheLastRowIsNotLookedAt)
 {
     EXPECT_EQ(Read(kThreeRows + "\"more\",5\r\n" + QByteArray(100000, 'x')), Read(kThreeRows));
@@ -139,10 +206,14 @@ TEST(InvestmentFile, ADamagedCountHidesNoRowAndAddsNone)
         EXPECT_EQ(statement.rowCount, 3.0F) << count.toStdString();
         EXPECT_EQ(statement.rows, Read(kThreeRows).rows) << count.toStdString();
         EXPECT_EQ(statement.total, Money(u"-2.5"_s)) << count.toStdString();
+        EXPECT_FALSE(IsCalculated(count + rows)) << count.toStdString();
     }
-    for (const QByteArray count : {"105", "3", "+3", "3e0", " 3 "}) {
+    for (const QByteArray count : {"3", "+3", "3e0", " 3 "}) {
         EXPECT_EQ(Read(count + rows).rowCount, 3.0F) << count.toStdString();
+        EXPECT_TRUE(IsCalculated(count + rows)) << count.toStdString();
     }
+    EXPECT_EQ(Read("105" + rows).rowCount, 3.0F);
+    EXPECT_FALSE(IsCalculated("105" + rows)) << "102 rows are missing";
 }
 
 TEST(InvestmentFile, ACountBelowTheRowsIsTakenAndTheOtherRowsAreKept)
@@ -153,6 +224,34 @@ TEST(InvestmentFile, ACountBelowTheRowsIsTakenAndTheOtherRowsAreKept)
     EXPECT_EQ(statement.total, Money(u"-12.5"_s));
     EXPECT_EQ(statement.rows.at(3), Item(u"Sub Total"_s, u"-2.5"_s));
     EXPECT_EQ(Written(statement), bytes);
+    EXPECT_FALSE(IsCalculated(bytes));
+    const QByteArray none = "0" + kThreeRows.sliced(1);
+    EXPECT_EQ(Read(none).rowCount, 0.0F);
+    EXPECT_EQ(Read(none).total, Currency());
+    EXPECT_FALSE(IsCalculated(none));
+    EXPECT_TRUE(IsCalculated(FileOf("0\r\n")));
+}
+
+TEST(InvestmentFile, AnAmountWithoutADescriptionIsKeptAndNotCounted)
+{
+    const QByteArray bytes = FileOf("3\r\n\"a\",1\r\n,100\r\n\"b\",2\r\n");
+    const InvestmentStatement statement = Read(bytes);
+    EXPECT_EQ(statement.rowCount, 3.0F);
+    EXPECT_EQ(statement.rows.at(2), Item(QString(), u"100"_s));
+    EXPECT_EQ(statement.total, Money(u"3"_s)) << "as it will be once calculated";
+    EXPECT_FALSE(IsCalculated(bytes));
+    EXPECT_EQ(Written(statement), bytes);
+}
+
+TEST(InvestmentFile, WhatCalculatingWouldChangeIsNotCalculated)
+{
+    EXPECT_FALSE(IsCalculated(FileOf("3\r\n\"a\",1\r\n,\r\n\"b\",2\r\n"))) << "an empty row";
+    EXPECT_FALSE(IsCalculated(FileOf("2\r\n\"a\",1\r\n\"Sub Total\",2\r\n"))) << "another sum";
+    EXPECT_TRUE(IsCalculated(FileOf("2\r\n\"a\",1\r\n\"Sub Total\",1\r\n")));
+    EXPECT_FALSE(IsCalculated(FileOf("1\r\n\"a\",12 apples\r\n"))) << "no number that was saved";
+    EXPECT_FALSE(IsCalculated(FileOf("1\r\n\"a\",1e30\r\n")));
+    EXPECT_FALSE(IsCalculated(FileOf("1\r\n\"a\",#2004-03-13#\r\n")));
+    EXPECT_TRUE(IsCalculated(FileOf("1\r\n\"a\",\"\"\r\n"))) << "an empty cell";
 }
 
 TEST(InvestmentFile, RowsUpTo111AreReadAndWrittenBack)
@@ -165,6 +264,7 @@ TEST(InvestmentFile, RowsUpTo111AreReadAndWrittenBack)
     EXPECT_EQ(statement.rowCount, 105.0F);
     EXPECT_EQ(statement.total, Money(u"5565"_s)) << "of the 105 rows that are counted";
     EXPECT_EQ(statement.rows.at(111), Item(u"Row 111"_s, u"111"_s));
+    EXPECT_TRUE(IsCalculated(bytes)) << "they are beyond what can be used";
     EXPECT_EQ(Written(statement), bytes);
 }
 
@@ -243,5 +343,6 @@ TEST(InvestmentFile, TheSampleIsACalculatedStatement)
     EXPECT_EQ(sample.rowCount, 15.0F);
     EXPECT_EQ(sample.total, Money(u"29"_s));
     EXPECT_EQ(Calculated(sample.rows), sample);
+    EXPECT_TRUE(IsCalculated(bytes));
     EXPECT_EQ(Written(sample), bytes);
 }

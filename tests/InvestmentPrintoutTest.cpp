@@ -117,8 +117,18 @@ TEST(InvestmentPrintout, AFullStatementGoesOnUnderItsHeadingOnTheNextPages)
 
 TEST(InvestmentPrintout, AStatementThatJustFillsThePageKeepsItsTotalThere)
 {
-    const PrintedDocument document = Printed(NumberedRows(45));
-    ASSERT_EQ(document.pages.size(), 1U);
-    EXPECT_TRUE(PageLines(document, 1).back().startsWith(u"       Total"_s));
-    EXPECT_EQ(Printed(NumberedRows(46)).pages.size(), 2U);
+    const struct {
+        qint16 font;
+        int rows; ///< of the 53 or 56 lines, without the eight of the heading
+    } pages[] = {{kStandardFont, 45}, {kCourierNewFont, 48}};
+    for (const auto& page : pages) {
+        const PrintedDocument document = Printed(NumberedRows(page.rows), page.font);
+        ASSERT_EQ(document.pages.size(), 1U);
+        const QStringList lines = PageLines(document, 1);
+        EXPECT_TRUE(lines.back().startsWith(u"       Total"_s));
+        EXPECT_TRUE(lines.at(lines.size() - 3).startsWith(u"       Row %1 "_s.arg(page.rows)));
+        const PrintedDocument longer = Printed(NumberedRows(page.rows + 1), page.font);
+        ASSERT_EQ(longer.pages.size(), 2U);
+        EXPECT_TRUE(PageLines(longer, 2).at(8).startsWith(u"       Row %1 "_s.arg(page.rows + 1)));
+    }
 }

@@ -214,6 +214,18 @@ TEST_F(LotteryFileCommands, AMissingFileGivesMessage13AndTheEmptyDatabase)
     EXPECT_EQ(prompts.shownReasons, QStringList{u"No such file or directory"_s});
 }
 
+TEST_F(LotteryFileCommands, AFailedOpenLeavesTheFolderOfTheFileDialog)
+{
+    shared.dialogFolder = u"/where it was"_s;
+    prompts.expectedMessages = {kNotFoundOrWrongFormat};
+    prompts.files = {Path(u"none.Lto"_s), Path(u"good.Lto"_s)};
+    LoadFile(shared, prompts);
+    EXPECT_EQ(shared.dialogFolder, u"/where it was"_s);
+    Place(Path(u"good.Lto"_s), Written(MadeUpDatabase(6, 49, 2)));
+    LoadFile(shared, prompts);
+    EXPECT_EQ(shared.dialogFolder, Folder());
+}
+
 TEST_F(LotteryFileCommands, AFileInNeitherLayoutGivesMessages16And13)
 {
     ExpectBytesRefused("Dear Tom,\r\nthe numbers are 3, 8 and 19.\r\n");

@@ -1,5 +1,6 @@
 #include "tests/FormBench.h"
 #include "tests/PrintedPages.h"
+#include "tests/ToolTipText.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -145,7 +146,7 @@ TEST_F(MainWindow, ALongTitleLeavesTheWindowAsLargeAsItWas)
         EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
         EXPECT_EQ(m_window.size(), before);
         EXPECT_LE(m_window.minimumSizeHint().width(), before.width());
-        EXPECT_EQ(Find<QLabel>(u"InfoLabel"_s).toolTip(), title);
+        EXPECT_EQ(TextOfToolTip(Find<QLabel>(u"InfoLabel"_s).toolTip()), title);
     }
 }
 
@@ -251,6 +252,16 @@ TEST_F(MainWindow, ATitleWithMarkupIsShownAsItStands)
     Click(u"DExit"_s);
     EXPECT_EQ(TextOf(u"InfoLabel"_s), u" File in Memory \r\n  <b>6</b>&49  "_s);
     EXPECT_EQ(Find<QLabel>(u"InfoLabel"_s).textFormat(), Qt::PlainText);
+    for (const QString& title : {u"a &amp; b"_s, u"6 > 5"_s, u"<b>6</b>"_s, u"Lotto & 49"_s, u"a  b"_s}) {
+        m_shared.database.title = title;
+        m_window.Menu().ShowFileInMemory();
+        const QLabel& label = Find<QLabel>(u"InfoLabel"_s);
+        EXPECT_EQ(TextOfToolTip(label.toolTip()), title);
+        EXPECT_EQ(label.accessibleDescription(), title);
+        Click(u"PickForm"_s);
+        EXPECT_EQ(TextOfToolTip(Find<QLabel>(u"InfoLabel1"_s).toolTip()), title);
+        Click(u"PExit"_s);
+    }
 }
 
 TEST_F(MainWindow, ACancelledDialogShowsTheEditorOnTheDatabaseInMemory)
@@ -313,10 +324,45 @@ TEST_F(MainWindow, AFileNamedAtTheStartOpensWithoutADialog)
 {
     WriteFile(u"Named.Lto"_s, kTwoDraws);
     Start();
-    m_window.Menu().OpenNamedFile(m_folder.filePath(u"Named.Lto"_s));
+    m_window.OpenNamedFile(m_folder.filePath(u"Named.Lto"_s));
     EXPECT_EQ(FrontForm(), u"LDbase"_s);
     EXPECT_EQ(m_shared.database.fileName, u"Named.Lto"_s);
     EXPECT_EQ(m_shared.dialogFolder, m_folder.path());
+}
+
+TEST_F(MainWindow, AStatementNamedAtTheStartOpensInTheTracker)
+{
+    for (const QString& name : {u"Named.inv"_s, u"NAMED.INV"_s}) {
+        WriteFile(name, "1\r\n\"Tickets\",-12\r\n");
+        Start();
+        m_window.OpenNamedFile(m_folder.filePath(name));
+        EXPECT_EQ(FrontForm(), u"LInvTrack"_s);
+        EXPECT_EQ(m_window.windowTitle(), u" Investment Tracker"_s);
+        EXPECT_EQ(Cell(u"IGrid"_s, 0, 0), u"Tickets"_s);
+        EXPECT_EQ(m_shared.investmentFileName, name);
+        EXPECT_EQ(m_shared.dialogFolder, m_folder.path());
+        EXPECT_EQ(FocusName(), u"IGrid"_s);
+        Click(u"IExit"_s);
+    }
+}
+
+TEST_F(MainWindow, AStatementNamedAtTheStartThatIsNotThereGivesItsMessageInTheTracker)
+{
+    Start();
+    m_prompts.expectedMessages = {25};
+    m_window.OpenNamedFile(m_folder.filePath(u"elsewhere/None.inv"_s));
+    EXPECT_EQ(FrontForm(), u"LInvTrack"_s);
+    EXPECT_EQ(m_shared.investmentFileName, QString());
+    EXPECT_EQ(m_shared.dialogFolder, QString());
+}
+
+TEST_F(MainWindow, AFileNamedAtTheStartThatIsNotThereLeavesTheFolderOfTheFileDialog)
+{
+    Start();
+    m_prompts.expectedMessages = {13};
+    m_window.OpenNamedFile(m_folder.filePath(u"elsewhere/None.Lto"_s));
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+    EXPECT_EQ(m_shared.dialogFolder, QString());
 }
 
 TEST_F(MainWindow, TheUsersNameStandsInTheMenuWhenThereIsOne)

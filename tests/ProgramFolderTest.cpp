@@ -98,6 +98,36 @@ TEST_F(ProgramFolder, AFolderThatWasThereIsLeftAsItIs)
     EXPECT_EQ(BytesOf(Path(u"data/Personal.Lot"_s)), "mine");
 }
 
+TEST_F(ProgramFolder, ADataFolderOfAnEarlierVersionReceivesTheSampleThatCameLater)
+{
+    ASSERT_TRUE(QDir().mkpath(Path(u"data"_s)));
+    Place(Path(u"data/Sample.Lto"_s), "worked on");
+    EXPECT_EQ(Choose({QString(), Path(u"data"_s), {}}), Path(u"data"_s));
+    EXPECT_EQ(BytesOf(Path(u"data/Sample.inv"_s)), "the sample");
+    EXPECT_TRUE(QFile::permissions(Path(u"data/Sample.inv"_s)).testFlag(QFile::WriteOwner));
+    EXPECT_EQ(BytesOf(Path(u"data/Sample.Lto"_s)), "worked on") << "what is there is never replaced";
+    Place(Path(u"data/Sample.inv"_s), "mine");
+    EXPECT_EQ(Choose({QString(), Path(u"data"_s), {}}), Path(u"data"_s));
+    EXPECT_EQ(BytesOf(Path(u"data/Sample.inv"_s)), "mine");
+}
+
+TEST_F(ProgramFolder, OtherFoldersReceiveNoSampleThatCameLater)
+{
+    ASSERT_TRUE(QDir().mkpath(Path(u"asked"_s)));
+    ASSERT_TRUE(QDir().mkpath(Path(u"data"_s)));
+    for (const QString& lottery : {u"asked/Sample.Lto"_s, u"bin/Sample.Lto"_s}) {
+        Place(Path(lottery), "worked on");
+    }
+    Place(Path(u"data/Other.Lto"_s), "no folder of samples");
+    EXPECT_EQ(Choose({QString(), Path(u"data"_s), Path(u"asked"_s)}), Path(u"asked"_s));
+    EXPECT_EQ(Choose({Path(u"bin"_s), Path(u"data"_s), {}}), Path(u"bin"_s));
+    EXPECT_EQ(Choose({QString(), Path(u"data"_s), {}}), Path(u"data"_s));
+    for (const QString& folder : {u"asked"_s, u"bin"_s}) {
+        EXPECT_EQ(NamesIn(Path(folder)), QStringList{u"Sample.Lto"_s});
+    }
+    EXPECT_EQ(NamesIn(Path(u"data"_s)), QStringList{u"Other.Lto"_s});
+}
+
 TEST_F(ProgramFolder, WithoutASampleTheFolderIsMadeAllTheSame)
 {
     EXPECT_EQ(ChooseProgramFolder({QString(), Path(u"data"_s), {}}, {Path(u"none"_s)}), Path(u"data"_s));

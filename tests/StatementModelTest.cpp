@@ -1,6 +1,7 @@
 #include "invest/StatementModel.h"
 
 #include "tests/Statements.h"
+#include "tests/ToolTipText.h"
 
 #include <QAbstractItemModelTester>
 #include <QFont>
@@ -122,11 +123,15 @@ TEST_F(StatementModelTest, RowsAFileHoldsBeyondItsCountAreSeen)
     EXPECT_EQ(Cell(106, 1), QString());
 }
 
-TEST_F(StatementModelTest, ALongDescriptionIsSeenWholeAboveItsCell)
+TEST_F(StatementModelTest, ALongDescriptionIsSeenWholeAboveItsCellWhateverItHolds)
 {
-    m_rows = Rows({Item(u"<b>"_s + QString(300, u'x'))});
-    m_model.Build(1);
-    EXPECT_EQ(m_model.index(0, 0).data(Qt::ToolTipRole).toString(), u"&lt;b&gt;"_s + QString(300, u'x'));
+    const QString text = u"<b> &amp; > &  2 "_s + QString(300, u'x');
+    m_rows = Rows({Item(text, u"5"_s), Item(u" "_s)});
+    m_model.Build(2);
+    const QString tip = m_model.index(0, 0).data(Qt::ToolTipRole).toString();
+    EXPECT_EQ(TextOfToolTip(tip), text);
+    EXPECT_EQ(m_model.index(0, 1).data(Qt::ToolTipRole).toString(), QString());
+    EXPECT_EQ(m_model.index(2, 0).data(Qt::ToolTipRole).toString(), QString()) << "nothing, so no tip";
 }
 
 } // namespace

@@ -142,6 +142,39 @@ TEST_F(StatementTypingTest, FiguresOfAFileAreGoneOnWithAsAFileHoldsThem)
     EXPECT_EQ(Amount(), Money(u"81"_s));
 }
 
+TEST_F(StatementTypingTest, ACellThatWasLeftGoesOnWithTheAmountItShows)
+{
+    struct Case {
+        QString typed;
+        QString further;
+        QString amount;
+    };
+    for (const Case& row : std::vector<Case>{{u"-12-24"_s, u"5"_s, u"-125"_s},
+                                             {u"1.2.3"_s, u"5"_s, u"1.25"_s},
+                                             {u"007"_s, u"1"_s, u"71"_s},
+                                             {u"-"_s, u"5"_s, u"5"_s},
+                                             {u"12"_s, u".50"_s, u"12.5"_s}}) {
+        m_rows = {};
+        m_typing.Forget();
+        Keys(kAmount, row.typed);
+        m_typing.LeaveRow(1);
+        Keys(kAmount, row.further);
+        EXPECT_EQ(Amount(), Money(row.amount)) << row.typed.toStdString();
+    }
+    for (const int row : {-1, 0, 106, 500}) {
+        m_typing.LeaveRow(row); // the grid has rows beyond, and at first no row at all
+    }
+    EXPECT_EQ(Amount(), Money(u"12.5"_s));
+}
+
+TEST_F(StatementTypingTest, BackspaceInACellThatWasLeftWorksOnWhatIsSeen)
+{
+    Keys(kAmount, u"-12-24"_s);
+    m_typing.LeaveRow(1);
+    EXPECT_EQ(m_typing.Backspace(kAmount), Typed::Changed);
+    EXPECT_EQ(Amount(), Money(u"-1"_s));
+}
+
 TEST_F(StatementTypingTest, AFigureThatLeavesTheRangeIsRefused)
 {
     EXPECT_EQ(Keys(kAmount, u"922337203685477.5807"_s), Typed::Changed);
