@@ -5,6 +5,8 @@
 #include "app/FieldWriter.h"
 #include "app/TextPictures.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -27,6 +29,14 @@ bool ReadText(FieldReader& fields, QString& value)
     return field.has_value();
 }
 
+/// The settings are one line, whatever a damaged file has brought into them.
+QString OneLine(QString text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; }, u' ');
+    return text;
+}
+
 qint16 WithinOr(qint16 value, int highest, qint16 fallback)
 {
     return value >= 1 && value <= highest ? value : fallback;
@@ -41,11 +51,12 @@ Outcome WriteSettings(const AppSettings& settings, QByteArray& bytes)
     writer.Number(settings.defaultPicks);
     writer.Number(settings.defaultHighest);
     writer.Number(settings.entryForms);
-    writer.Text(settings.currencySymbol);
-    writer.Text(settings.userName);
+    writer.Text(OneLine(settings.currencySymbol));
+    writer.Text(OneLine(settings.userName));
     writer.EndLine();
     if (!writer.EverythingHadAPlace()) {
-        return Outcome::Failure(u"A text has a character that the settings file cannot hold."_s);
+        return Outcome::Failure(
+            u"The name or the currency symbol has a character that the file cannot hold."_s);
     }
     bytes = writer.Bytes();
     return {};

@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kFromOneToTen = 27;
 constexpr int kFromOneToSixty = 28;
+constexpr int kMostForms = 10;
 
 LeaveRule UpTo(int highest, int message)
 {
@@ -65,7 +66,6 @@ void ChangeFnt::SetUpBoxes()
     m_ui->InHiNum->Follow(m_shared, highest);
 
     InputRules forms;
-    constexpr int kMostForms = 10;
     forms.next = [this] { return m_ui->InSy; };
     forms.leave = UpTo(kMostForms, kFromOneToTen);
     m_ui->InNumLines->Follow(m_shared, forms);
@@ -90,12 +90,15 @@ void ChangeFnt::SetUpBoxes()
 void ChangeFnt::SaveAndLeave()
 {
     AppSettings& settings = m_shared.settings;
-    const auto number = [](const InputBox* box, qint16 before) {
-        return ToInt16(Val(box->text())).value_or(before);
+    // A box that never lost the focus, because its window was not the active one, has not been checked yet.
+    const auto number = [](const InputBox* box, int highest, qint16 before) {
+        const qint16 typed = ToInt16(Val(box->text())).value_or(0);
+        return typed >= 1 && typed <= highest ? typed : before;
     };
-    settings.defaultPicks = number(m_ui->InNumChoices, settings.defaultPicks);
-    settings.defaultHighest = number(m_ui->InHiNum, settings.defaultHighest);
-    settings.entryForms = number(m_ui->InNumLines, settings.entryForms);
+    settings.defaultPicks = number(m_ui->InNumChoices, kMostPicks, settings.defaultPicks);
+    settings.defaultHighest = number(m_ui->InHiNum, kMostNumbers, settings.defaultHighest);
+    settings.entryForms = number(m_ui->InNumLines, kMostForms, settings.entryForms);
+    settings.userName = m_ui->InMyName->text();
     settings.currencySymbol = m_ui->InSy->text();
     if (const Outcome written = WritePersonalSettings(m_shared); !written.ok) {
         m_prompts.Notice(u"The settings could not be saved to disk: "_s + written.reason +

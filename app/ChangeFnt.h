@@ -13,8 +13,8 @@ namespace Ui {
 class ChangeFnt;
 }
 
-/// The personal settings. They come into force and are written to disk when the form is left; the open
-/// database keeps its shape.
+/// The personal settings. The font comes into force when it is chosen, the name when its box is left, the
+/// others when the form is left; then all of them are written to disk. The open database keeps its shape.
 class ChangeFnt : public QDialog
 {
     Q_OBJECT

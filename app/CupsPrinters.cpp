@@ -19,17 +19,20 @@ class Cups
 public:
     Cups() : m_library(u"cups"_s, 2)
     {
-        m_complete = Find(getNamedDest, "cupsGetNamedDest") && Find(freeDests, "cupsFreeDests") &&
-                     Find(getOption, "cupsGetOption") && Find(createJob, "cupsCreateJob") &&
-                     Find(startDocument, "cupsStartDocument") &&
-                     Find(writeRequestData, "cupsWriteRequestData") &&
-                     Find(finishDocument, "cupsFinishDocument") && Find(cancelJob, "cupsCancelJob2") &&
-                     Find(lastError, "cupsLastError") && Find(lastErrorString, "cupsLastErrorString") &&
-                     Find(doRequest, "cupsDoRequest") && Find(newRequest, "ippNewRequest") &&
-                     Find(addString, "ippAddString") && Find(findAttribute, "ippFindAttribute") &&
-                     Find(getString, "ippGetString") && Find(getInteger, "ippGetInteger") &&
-                     Find(getCount, "ippGetCount") && Find(deleteMessage, "ippDelete") &&
-                     Find(mediaForName, "pwgMediaForPWG") && Find(mediaForPpd, "pwgMediaForPPD");
+        m_complete =
+            Find(getNamedDest, "cupsGetNamedDest") && Find(freeDests, "cupsFreeDests") &&
+            Find(getOption, "cupsGetOption") && Find(createJob, "cupsCreateJob") &&
+            Find(startDocument, "cupsStartDocument") && Find(writeRequestData, "cupsWriteRequestData") &&
+            Find(finishDocument, "cupsFinishDocument") && Find(cancelJob, "cupsCancelJob2") &&
+            Find(lastError, "cupsLastError") && Find(lastErrorString, "cupsLastErrorString") &&
+            Find(doRequest, "cupsDoRequest") && Find(newRequest, "ippNewRequest") &&
+            Find(addString, "ippAddString") && Find(findAttribute, "ippFindAttribute") &&
+            Find(getString, "ippGetString") && Find(getInteger, "ippGetInteger") &&
+            Find(getCount, "ippGetCount") && Find(deleteMessage, "ippDelete") &&
+            Find(mediaForName, "pwgMediaForPWG") && Find(mediaForPpd, "pwgMediaForPPD") &&
+            Find(connect, "httpConnect2") && Find(close, "httpClose") && Find(setTimeout, "httpSetTimeout") &&
+            Find(server, "cupsServer") && Find(port, "ippPort") && Find(encryption, "cupsEncryption") &&
+            Find(setPasswordCallback, "cupsSetPasswordCB2");
     }
 
     /// Whether the library is there with all that is needed; if not, why.
@@ -60,6 +63,13 @@ public:
     decltype(&::ippDelete) deleteMessage = nullptr;
     decltype(&::pwgMediaForPWG) mediaForName = nullptr;
     decltype(&::pwgMediaForPPD) mediaForPpd = nullptr;
+    decltype(&::httpConnect2) connect = nullptr;
+    decltype(&::httpClose) close = nullptr;
+    decltype(&::httpSetTimeout) setTimeout = nullptr;
+    decltype(&::cupsServer) server = nullptr;
+    decltype(&::ippPort) port = nullptr;
+    decltype(&::cupsEncryption) encryption = nullptr;
+    decltype(&::cupsSetPasswordCB2) setPasswordCallback = nullptr;
 
 private:
     template <typename Function>
@@ -74,13 +84,66 @@ private:
     bool m_complete = false;
 };
 
+/// The way to the print service. It gives up waiting after a while: a service that does not answer must not
+/// hold the program for minutes.
+class Connection
+{
+public:
+    explicit Connection(const Cups& cups) : m_cups(cups)
+    {
+        constexpr int kMilliseconds = 5000;
+        constexpr double kSeconds = 10;
+        // Nobody is there to type a password: without one, a queue that wants it says so.
+        cups.setPasswordCallback(
+            [](const char*, http_t*, const char*, const char*, void*) -> const char* { return nullptr; },
+            nullptr);
+        m_http = cups.connect(cups.server(), cups.port(), nullptr, AF_UNSPEC, cups.encryption(), 1,
+                              kMilliseconds, nullptr);
+        if (m_http != nullptr) {
+            cups.setTimeout(m_http, kSeconds, &GiveUp, &m_gaveUp);
+        }
+    }
+    ~Connection()
+    {
+        if (m_http != nullptr) {
+            m_cups.close(m_http);
+        }
+    }
+    Connection(const Connection&) = delete;
+    Connection(Connection&&) = delete;
+    Connection& operator=(const Connection&) = delete;
+    Connection& operator=(Connection&&) = delete;
+
+    [[nodiscard]] bool IsOpen() const { return m_http != nullptr && !m_gaveUp; }
+    [[nodiscard]] http_t* Http() const { return m_http; }
+
+    /// Why the last request failed.
+    [[nodiscard]] QString Reason() const
+    {
+        return IsOpen() ? m_cups.Reason() : u"The print service of this computer does not answer."_s;
+    }
+
+private:
+    static int GiveUp(http_t* /*http*/, void* gaveUp)
+    {
+        *static_cast<bool*>(gaveUp) = true;
+        return 0; // no more waiting
+    }
+
+    const Cups& m_cups;
+    http_t* m_http = nullptr;
+    bool m_gaveUp = false;
+};
+
 /// A queue with the options its user has chosen for it. Frees itself.
 class Destination
 {
 public:
-    /// @param name  of the queue; nullptr for the default one
-    Destination(const Cups& cups, const char* name)
-        : m_cups(cups), m_queue(cups.getNamedDest(CUPS_HTTP_DEFAULT, name, nullptr))
+    /// @param name      of the queue; nullptr for the default one
+    /// @param instance  the set of options; nullptr for the queue's own
+    Destination(const Cups& cups, const Connection& connection, const char* name, const char* instance)
+        : m_cups(cups),
+          m_queue(connection.IsOpen() ? cups.getNamedDest(connection.Http(), name, instance) : nullptr)
     {}
     ~Destination()
     {
@@ -109,7 +172,7 @@ private:
 class QueueState
 {
 public:
-    QueueState(const Cups& cups, const Destination& queue)
+    QueueState(const Cups& cups, const Connection& connection, const Destination& queue)
         : m_cups(cups), m_answer(nullptr, cups.deleteMessage)
     {
         const char* uri = queue.Option("printer-uri-supported");
@@ -118,8 +181,10 @@ public:
         }
         ipp_t* request = cups.newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
         cups.addString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
-        m_answer.reset(cups.doRequest(CUPS_HTTP_DEFAULT, request, "/")); // takes the request
+        m_answer.reset(cups.doRequest(connection.Http(), request, "/")); // takes the request
     }
+
+    [[nodiscard]] bool IsKnown() const { return Find("printer-state", IPP_TAG_ENUM) != nullptr; }
 
     [[nodiscard]] bool IsStopped() const
     {
@@ -187,11 +252,11 @@ std::optional<QPageSize> PaperNamed(const Cups& cups, const QByteArray& name)
                      QPageSize::FuzzyMatch);
 }
 
-QPageSize PaperOf(const Cups& cups, const Destination& queue)
+QPageSize PaperOf(const Cups& cups, const Connection& connection, const Destination& queue)
 {
     // What the user has set for the queue comes before what the queue has of its own.
     for (const QByteArray& name : {QByteArray(queue.Option("media")), QByteArray(queue.Option("PageSize")),
-                                   QueueState(cups, queue).DefaultMedia()}) {
+                                   QueueState(cups, connection, queue).DefaultMedia()}) {
         if (const std::optional<QPageSize> paper = PaperNamed(cups, name.split(',').first())) {
             return *paper;
         }
@@ -199,61 +264,61 @@ QPageSize PaperOf(const Cups& cups, const Destination& queue)
     return UsualPaper(QLocale());
 }
 
-/// One job; what is not finished is cancelled, so that no half printout waits in the queue.
+/// One job.
 class Job
 {
 public:
-    Job(const Cups& cups, const cups_dest_t& queue, const QByteArray& title)
-        : m_cups(cups), m_queue(queue), m_title(title),
-          m_id(cups.createJob(CUPS_HTTP_DEFAULT, queue.name, title.constData(), queue.num_options,
+    Job(const Cups& cups, const Connection& connection, const cups_dest_t& queue, const QByteArray& title)
+        : m_cups(cups), m_connection(connection), m_queue(queue), m_title(title),
+          m_id(cups.createJob(connection.Http(), queue.name, title.constData(), queue.num_options,
                               queue.options))
     {}
-    ~Job()
-    {
-        if (m_id > 0 && !m_finished) {
-            m_cups.cancelJob(CUPS_HTTP_DEFAULT, m_queue.name, m_id, 0);
-        }
-    }
-    Job(const Job&) = delete;
-    Job(Job&&) = delete;
-    Job& operator=(const Job&) = delete;
-    Job& operator=(Job&&) = delete;
 
-    [[nodiscard]] Outcome Send(const QByteArray& pdf)
+    /// Sends the pages whole. What is not sent whole is cancelled, so that no half printout waits in the
+    /// queue.
+    [[nodiscard]] Outcome Send(const QByteArray& pdf) const
     {
-        if (m_id <= 0 || m_cups.startDocument(CUPS_HTTP_DEFAULT, m_queue.name, m_id, m_title.constData(),
-                                              CUPS_FORMAT_PDF, 1) != HTTP_STATUS_CONTINUE) {
-            return Outcome::Failure(m_cups.Reason());
+        if (m_id <= 0) {
+            return Outcome::Failure(m_connection.Reason());
+        }
+        if (SendPages(pdf)) {
+            return {};
+        }
+        QString reason = m_connection.Reason();
+        if (m_cups.lastError() ==
+            IPP_STATUS_ERROR_REQUEST_VALUE) { // how the service says that its disk is full
+            reason = u"The print service has no room for the pages. (%1)"_s.arg(reason);
+        }
+        if (m_cups.cancelJob(m_connection.Http(), m_queue.name, m_id, 0) > IPP_STATUS_OK_EVENTS_COMPLETE) {
+            reason += u"\nA part of it may still be in the queue: %1"_s.arg(m_connection.Reason());
+        }
+        return Outcome::Failure(reason);
+    }
+
+private:
+    [[nodiscard]] bool SendPages(const QByteArray& pdf) const
+    {
+        http_t* http = m_connection.Http();
+        if (m_cups.startDocument(http, m_queue.name, m_id, m_title.constData(), CUPS_FORMAT_PDF, 1) !=
+            HTTP_STATUS_CONTINUE) {
+            return false;
         }
         constexpr qsizetype kPiece = 65536;
         bool whole = true;
         for (qsizetype sent = 0; whole && sent < pdf.size(); sent += kPiece) {
             const QByteArray piece = pdf.sliced(sent, std::min(kPiece, pdf.size() - sent));
-            whole = m_cups.writeRequestData(CUPS_HTTP_DEFAULT, piece.constData(), size_t(piece.size())) ==
+            whole = m_cups.writeRequestData(http, piece.constData(), size_t(piece.size())) ==
                     HTTP_STATUS_CONTINUE;
         }
         // Also after a piece that was not taken: this is where the service says why.
-        m_finished =
-            m_cups.finishDocument(CUPS_HTTP_DEFAULT, m_queue.name) <= IPP_STATUS_OK_EVENTS_COMPLETE && whole;
-        return m_finished ? Outcome{} : Refused();
-    }
-
-private:
-    /// Why the service did not take the pages.
-    [[nodiscard]] Outcome Refused() const
-    {
-        const QString reason = m_cups.Reason();
-        if (m_cups.lastError() == IPP_STATUS_ERROR_REQUEST_VALUE) { // how it says that its disk is full
-            return Outcome::Failure(u"The print service has no room for the pages. (%1)"_s.arg(reason));
-        }
-        return Outcome::Failure(reason);
+        return m_cups.finishDocument(http, m_queue.name) <= IPP_STATUS_OK_EVENTS_COMPLETE && whole;
     }
 
     const Cups& m_cups;
+    const Connection& m_connection;
     const cups_dest_t& m_queue;
     QByteArray m_title;
     int m_id;
-    bool m_finished = false;
 };
 
 } // namespace
@@ -262,13 +327,17 @@ DefaultPrinter CupsPrinters::Default()
 {
     const Cups cups;
     if (const Outcome loaded = cups.Loaded(); !loaded.ok) {
-        return {.name = {}, .paper = UsualPaper(QLocale()), .reason = loaded.reason};
+        return {.name = {}, .instance = {}, .paper = UsualPaper(QLocale()), .reason = loaded.reason};
     }
-    const Destination queue(cups, nullptr);
+    const Connection connection(cups);
+    const Destination queue(cups, connection, nullptr, nullptr);
     if (queue.Queue() == nullptr) {
-        return {.name = {}, .paper = UsualPaper(QLocale()), .reason = cups.Reason()};
+        return {.name = {}, .instance = {}, .paper = UsualPaper(QLocale()), .reason = connection.Reason()};
     }
-    return {.name = QString::fromUtf8(queue.Queue()->name), .paper = PaperOf(cups, queue), .reason = {}};
+    return {.name = QString::fromUtf8(queue.Queue()->name),
+            .instance = QString::fromUtf8(queue.Queue()->instance),
+            .paper = PaperOf(cups, connection, queue),
+            .reason = {}};
 }
 
 Outcome CupsPrinters::Print(const PrintedDocument& document, const DefaultPrinter& printer,
@@ -278,18 +347,26 @@ Outcome CupsPrinters::Print(const PrintedDocument& document, const DefaultPrinte
     if (Outcome loaded = cups.Loaded(); !loaded.ok) {
         return loaded;
     }
-    const Destination queue(cups, printer.name.toUtf8().constData());
+    const Connection connection(cups);
+    const QByteArray instance = printer.instance.toUtf8();
+    const Destination queue(cups, connection, printer.name.toUtf8().constData(),
+                            instance.isEmpty() ? nullptr : instance.constData());
     if (queue.Queue() == nullptr) {
-        return Outcome::Failure(cups.Reason());
+        return Outcome::Failure(connection.Reason());
+    }
+    const QueueState state(cups, connection, queue);
+    if (!state.IsKnown()) {
+        return Outcome::Failure(connection.Reason());
     }
     // A stopped queue takes jobs and keeps them: who tries again would get every try when it runs again.
-    if (const QueueState state(cups, queue); state.IsStopped()) {
-        return Outcome::Failure(u"The printer is stopped. %1"_s.arg(state.Reasons()).trimmed());
+    if (state.IsStopped()) {
+        const QString reasons = state.Reasons();
+        return Outcome::Failure(reasons.isEmpty() ? u"The printer is stopped."_s
+                                                  : u"The printer is stopped: %1"_s.arg(reasons));
     }
     QByteArray pdf;
     if (Outcome painted = MakePdf(document, printer.paper, pdf, pagesDone); !painted.ok) {
         return painted;
     }
-    constexpr qsizetype kLongestName = 80; // a name of a job has 255 bytes, and a title any length
-    return Job(cups, *queue.Queue(), document.name.left(kLongestName).toUtf8()).Send(pdf);
+    return Job(cups, connection, *queue.Queue(), document.name.toUtf8()).Send(pdf);
 }

@@ -6,7 +6,7 @@
 #include "app/PaperPrinting.h"
 #include "app/PrintPreview.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 
 #include <cstdio>
 
@@ -17,6 +17,13 @@ void Print(const QString& text)
     std::fputs((text + u'\n').toLocal8Bit().constData(), stderr);
 }
 
+/// What a dialog opens over: the dialog that is open, or the main window.
+QWidget* Below(QWidget* mainWindow)
+{
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal == nullptr ? mainWindow : modal;
+}
+
 } // namespace
 
 void DialogPrompts::ShowMessage()
@@ -25,13 +32,13 @@ void DialogPrompts::ShowMessage()
         Print(CurrentMessageText(m_shared));
         return;
     }
-    AMsgbox box(m_shared, m_mainWindow);
+    AMsgbox box(m_shared, Below(m_mainWindow));
     box.exec();
 }
 
 void DialogPrompts::AskQuestion()
 {
-    AllYesNo question(m_shared, m_mainWindow);
+    AllYesNo question(m_shared, Below(m_mainWindow));
     if (m_unattended) {
         question.reject();
         return;
@@ -41,7 +48,7 @@ void DialogPrompts::AskQuestion()
 
 void DialogPrompts::AskToPrint(const std::function<PrintedDocument()>& pages)
 {
-    AllYesNo question(m_shared, m_mainWindow);
+    AllYesNo question(m_shared, Below(m_mainWindow));
     if (m_unattended) {
         question.reject();
         return;
@@ -60,7 +67,7 @@ void DialogPrompts::PrintDocument(const PrintedDocument& document)
     if (m_unattended) {
         return;
     }
-    PaperPrinting(m_shared, *this, *m_printers, m_mainWindow).Print(document);
+    PaperPrinting(m_shared, *this, *m_printers, Below(m_mainWindow)).Print(document);
 }
 
 void DialogPrompts::FileDirectory()
@@ -69,7 +76,7 @@ void DialogPrompts::FileDirectory()
         m_shared.fileDialogMode = kFileDialogCancelled;
         return;
     }
-    FileDir(m_shared, m_mainWindow).FileDirectory();
+    FileDir(m_shared, Below(m_mainWindow)).FileDirectory();
 }
 
 void DialogPrompts::Notice(const QString& text)
@@ -78,7 +85,7 @@ void DialogPrompts::Notice(const QString& text)
         Print(text);
         return;
     }
-    AMsgbox box(m_shared, text, m_mainWindow);
+    AMsgbox box(m_shared, text, Below(m_mainWindow));
     box.exec();
 }
 

@@ -33,13 +33,17 @@ QString FileDir::ProposedName(const LGLOBAL& shared)
 void FileDir::FileDirectory()
 {
     const bool opens = m_shared.fileDialogMode % 2 == 1;
-    const QString folder = m_shared.dialogFolder.isEmpty() ? QDir::currentPath() : m_shared.dialogFolder;
+    // Where printouts go says nothing about where lotteries are kept.
+    QString& lastFolder =
+        m_shared.fileDialogMode == kSavePdfFile ? m_shared.pdfFolder : m_shared.dialogFolder;
+    const QString folder = lastFolder.isEmpty() ? QDir::currentPath() : lastFolder;
     QFileDialog dialog(m_mainWindow, u"Folders"_s, folder, Filter(m_shared.fileDialogMode));
     dialog.setObjectName(u"CMDialog1"_s);
     dialog.setAcceptMode(opens ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.selectNameFilter(Filter(m_shared.fileDialogMode));
     if (m_shared.fileDialogMode == kSavePdfFile) {
+        dialog.setWindowTitle(u"Print to a PDF File"_s);
         dialog.setDefaultSuffix(u"pdf"_s); // other files keep the name as it is typed
     }
     if (const QString name = ProposedName(m_shared); !name.isEmpty()) {
@@ -50,5 +54,5 @@ void FileDir::FileDirectory()
         return;
     }
     m_shared.chosenPath = dialog.selectedFiles().constFirst();
-    m_shared.dialogFolder = QFileInfo(m_shared.chosenPath).absolutePath();
+    lastFolder = QFileInfo(m_shared.chosenPath).absolutePath();
 }

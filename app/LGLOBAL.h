@@ -50,6 +50,7 @@ struct LGLOBAL {
     QString chosenPath;         ///< full path picked in the file dialog; "" when idle
     QString programFolder;      ///< where "Personal.Lot", "Sample.Lto" and "Extract.lto" are
     QString dialogFolder;       ///< folder the file dialog was last in; "" for the current folder
+    QString pdfFolder;          ///< folder a PDF file was last saved in; "" for the current folder
     QString pdfFileName;        ///< name that is proposed for a PDF file
     QString investmentFileName; ///< name of the investment statement last opened or saved
 

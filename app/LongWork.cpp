@@ -1,5 +1,8 @@
 #include "app/LongWork.h"
 
+#include "app/InputEvents.h"
+
+#include <QApplication>
 #include <QEventLoop>
 #include <QProgressDialog>
 #include <QThread>
@@ -14,6 +17,23 @@ namespace {
 
 constexpr int kSilence = 500; // milliseconds; what is done by then needs no word
 constexpr int kRefresh = 50;
+
+/// Drops whatever the user does as long as it lives: what is clicked while the program waits must not be done
+/// when it goes on, and no window is closed under the work.
+class NoInput : public QObject
+{
+public:
+    NoInput() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::Close) {
+            event->ignore();
+            return true;
+        }
+        return IsInput(event->type());
+    }
+};
 
 void SetUp(QProgressDialog& progress)
 {
@@ -36,7 +56,12 @@ Outcome RunLongWork(QWidget* window, const QString& text, int steps,
         QThread::create([&] { outcome = work([&done](int stepsDone) { done = stepsDone; }); }));
     QEventLoop waiting;
     QObject::connect(thread.get(), &QThread::finished, &waiting, &QEventLoop::quit);
+    thread->start();
+    if (!thread->isRunning() && !thread->isFinished()) { // the system has no room for another thread
+        return RunWorkHere(window, text, steps, work);
+    }
 
+    const NoInput noInput;
     QTimer refresh;
     std::unique_ptr<QProgressDialog> progress; // made only if the work takes long
     QTimer::singleShot(kSilence, &waiting, [&] {
@@ -48,8 +73,7 @@ Outcome RunLongWork(QWidget* window, const QString& text, int steps,
         QObject::connect(&refresh, &QTimer::timeout, progress.get(), [&] { progress->setValue(done); });
         refresh.start(kRefresh);
     });
-    thread->start();
-    waiting.exec(QEventLoop::ExcludeUserInputEvents);
+    waiting.exec();
     thread->wait(); // the loop also ends when the program is told to
     return outcome;
 }
@@ -57,6 +81,7 @@ Outcome RunLongWork(QWidget* window, const QString& text, int steps,
 Outcome RunWorkHere(QWidget* window, const QString& text, int steps,
                     const std::function<Outcome(const StepsDone&)>& work)
 {
+    const NoInput noInput;
     QProgressDialog progress(text, QString(), 0, steps, window);
     SetUp(progress);
     progress.setMinimumDuration(kSilence);

@@ -11,8 +11,8 @@
 using StepsDone = std::function<void(int steps)>;
 
 /// Runs work that may take long, such as waiting for a printer, on a thread of its own and returns when it is
-/// done. Meanwhile windows stay painted and input waits; after half a second a small window says what is
-/// being done and how far it is.
+/// done. Meanwhile windows stay painted and what the user does is dropped; after half a second a small window
+/// says what is being done and how far it is.
 ///
 /// @param window  the window it is done for
 /// @param text    what is being done

@@ -89,7 +89,8 @@ QPoint LotoMenu::FrontPlace() const
 
 void LotoMenu::ShowUserName()
 {
-    m_ui->MyName->setText(Shared().settings.userName);
+    constexpr qsizetype kLongest = 200; // the file may hold any name; this is more than the window shows
+    m_ui->MyName->setText(Shared().settings.userName.left(kLongest));
     m_ui->MyName->setVisible(!Shared().settings.userName.isEmpty());
 }
 

@@ -61,8 +61,8 @@ void PaperPrinting::Print(const PrintedDocument& document)
 {
     const DefaultPrinter printer = FindPrinter();
     if (!printer.Exists()) {
-        m_prompts.Notice(
-            u"There is no default printer. You can print to a PDF file instead.\n\n%1"_s.arg(printer.reason));
+        m_prompts.Notice(u"There is no printer to print on. You can print to a PDF file instead.\n\n%1"_s.arg(
+            printer.reason));
         SaveAsPdf(document, printer.paper);
         return;
     }
@@ -91,8 +91,10 @@ void PaperPrinting::SaveAsPdf(const PrintedDocument& document, const QPageSize& 
         RunLongWork(m_mainWindow, u"Printing to a PDF file..."_s, PageCount(document),
                     [&](const StepsDone& done) { return WritePdf(document, paper, path, done); });
     m_prompts.SetBusyPointer(false);
-    if (!saved.ok) {
-        m_prompts.Notice(
-            u"The PDF file was not written.\n%1\n\n%2"_s.arg(QDir::toNativeSeparators(path), saved.reason));
+    const QString shownPath = QDir::toNativeSeparators(path);
+    if (saved.ok) {
+        m_prompts.Notice(u"The pages are in this file now:\n%1"_s.arg(shownPath));
+    } else {
+        m_prompts.Notice(u"The PDF file was not written.\n%1\n\n%2"_s.arg(shownPath, saved.reason));
     }
 }

@@ -11,15 +11,16 @@
 
 /// The printer that takes what is printed without asking for one.
 struct DefaultPrinter {
-    QString name; ///< "" when there is none
+    QString name;       ///< "" when there is none
+    QString instance{}; ///< the set of options that the user made the default; "" for the queue's own
     QPageSize paper;
-    QString reason; ///< why there is none, in the words of the system
+    QString reason; ///< why there is none
 
     [[nodiscard]] bool Exists() const { return !name.isEmpty(); }
 };
 
-/// The one door to paper. Both functions may take as long as the system needs to answer, so they are called
-/// on a thread of their own; they touch nothing but their arguments.
+/// The one door to paper. Default and Print may take as long as the system needs to answer, so they are
+/// called on a thread of their own where the system allows it. They touch nothing but their arguments.
 class PrinterDoor
 {
 public:
@@ -31,8 +32,9 @@ public:
     /// The default printer as it is at this moment.
     [[nodiscard]] virtual DefaultPrinter Default() = 0;
 
-    /// Hands the document to the printer, whole or not at all. On failure the reason is the system's own and
-    /// nothing is left in the queue.
+    /// Hands the document to the printer. On failure the reason says why, in the system's words where it
+    /// gives any; what the printer's system keeps of a job that failed is taken back as far as it lets
+    /// itself.
     [[nodiscard]] virtual Outcome Print(const PrintedDocument& document, const DefaultPrinter& printer,
                                         const PagesDone& pagesDone) = 0;
 

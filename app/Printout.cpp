@@ -30,15 +30,50 @@ qsizetype LengthOfFirstLine(const QString& text, qsizetype width)
     return blank > 0 ? std::min(blank + 1, width) : width;
 }
 
-/// A control character would print as nothing or as a box.
-QString Printable(QString text)
+/// True for a character that a fixed-pitch font has and that is one column wide.
+bool IsOneColumnWide(QChar character)
 {
-    std::replace_if(
-        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; }, u' ');
-    return text;
+    switch (character.script()) {
+    case QChar::Script_Common:
+    case QChar::Script_Latin:
+    case QChar::Script_Greek:
+    case QChar::Script_Cyrillic:
+        break;
+    default:
+        return false;
+    }
+    // Signs that are written for ideographs are two columns wide.
+    constexpr char16_t kFirstWide = 0x2E80;
+    return character.unicode() < kFirstWide && !character.isSurrogate();
+}
+
+/// The text in characters of one column each: a blank for a control character, nothing for a mark without a
+/// width of its own, and a question mark for what has no column of its own.
+QString Printable(const QString& text)
+{
+    const QString composed = text.normalized(QString::NormalizationForm_C);
+    QString printable;
+    printable.reserve(composed.size());
+    for (const QChar character : composed) {
+        if (character.category() == QChar::Other_Control) {
+            printable += u' ';
+        } else if (character.isMark() || character.category() == QChar::Other_Format ||
+                   character.isLowSurrogate()) {
+            continue; // a pair of surrogates is one character
+        } else {
+            printable += IsOneColumnWide(character) ? character : QChar(u'?');
+        }
+    }
+    return printable;
 }
 
 } // namespace
+
+QString DocumentName(const QString& name)
+{
+    constexpr qsizetype kLongest = 100;
+    return name.left(kLongest).simplified();
+}
 
 int PageCount(const PrintedDocument& document)
 {
@@ -52,9 +87,9 @@ const BarChart* ChartOnPage(const PrintedDocument& document, int page)
                                                                    : nullptr;
 }
 
-Printout::Printout(QString name, qint16 printerFont) : m_linesPerPage(kStandardLinesPerPage)
+Printout::Printout(const QString& name, qint16 printerFont) : m_linesPerPage(kStandardLinesPerPage)
 {
-    m_document.name = std::move(name);
+    m_document.name = DocumentName(name);
     m_document.printerFont = printerFont == kCourierNewFont ? kCourierNewFont : kStandardFont;
 }
 

@@ -37,6 +37,9 @@ struct PrintedDocument {
     bool operator==(const PrintedDocument&) const = default;
 };
 
+/// The name as every queue and window takes it: one line, cut after a hundred characters.
+[[nodiscard]] QString DocumentName(const QString& name);
+
 /// How many pages a document has, charts included.
 [[nodiscard]] int PageCount(const PrintedDocument& document);
 
@@ -51,12 +54,14 @@ inline constexpr int kSheetLines =
 /// Writes a document line by line, the way a line printer is driven.
 ///
 /// Nothing runs off the paper: a text too long for its line goes on in the next line at the same column (from
-/// a blank where there is one), and a line that no longer fits the sheet starts a new page.
+/// a blank where there is one), and a line that no longer fits the sheet starts a new page. A character that
+/// is not exactly one column wide is printed as a question mark.
 class Printout
 {
 public:
+    /// @param name  cut after a hundred characters
     /// @param printerFont  as in the settings; any other than kCourierNewFont prints in the standard font
-    Printout(QString name, qint16 printerFont);
+    Printout(const QString& name, qint16 printerFont);
 
     /// Prints an empty line, which opens the document or the next page, and takes the font and with it the
     /// lines to a page. Called at the start of every printout and after every page break.

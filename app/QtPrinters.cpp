@@ -23,10 +23,12 @@ DefaultPrinter QtPrinters::Default()
 {
     const QPrinterInfo printer = QPrinterInfo::defaultPrinter();
     if (printer.isNull()) {
-        return {.name = {}, .paper = UsualPaper(QLocale()), .reason = u"No default printer."_s};
+        return {
+            .name = {}, .instance = {}, .paper = UsualPaper(QLocale()), .reason = u"No default printer."_s};
     }
     const QPageSize paper = printer.defaultPageSize();
     return {.name = printer.printerName(),
+            .instance = {},
             .paper = paper.isValid() ? paper : UsualPaper(QLocale()),
             .reason = {}};
 }

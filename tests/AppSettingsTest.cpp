@@ -284,6 +284,16 @@ TEST(AppSettings, AreWrittenAsOneLineThatReadsBack)
     EXPECT_EQ(read, settings);
 }
 
+TEST(AppSettings, LineEndsThatADamagedFileBroughtAreWrittenAsBlanks)
+{
+    AppSettings settings;
+    EXPECT_TRUE(ReadSettings("0,6,49,1,\"$\",\"An\r\nn\"\r\n", settings));
+    settings.currencySymbol = u"k\tr"_s;
+    QByteArray bytes;
+    ASSERT_TRUE(WriteSettings(settings, bytes).ok);
+    EXPECT_EQ(bytes, QByteArray("0,6,49,1,\"k r\",\"An  n\"\r\n"));
+}
+
 TEST(AppSettings, ATextThatNoFileCanHoldIsNotWritten)
 {
     AppSettings settings;
@@ -291,6 +301,7 @@ TEST(AppSettings, ATextThatNoFileCanHoldIsNotWritten)
     QByteArray bytes("as it was");
     const Outcome written = WriteSettings(settings, bytes);
     EXPECT_FALSE(written.ok);
-    EXPECT_EQ(written.reason, u"A text has a character that the settings file cannot hold."_s);
+    EXPECT_EQ(written.reason,
+              u"The name or the currency symbol has a character that the file cannot hold."_s);
     EXPECT_EQ(bytes, QByteArray("as it was"));
 }

@@ -215,6 +215,29 @@ TEST_F(Settings, EscapeLeavesAsTheButtonDoesAndLosesNothing)
     EXPECT_EQ(File(), "0,6,49,1,\"$\",\"Ann\"\r\n");
 }
 
+TEST_F(Settings, WhatWasTypedIsKeptWhenTheFormIsClosedWhileAnotherWindowIsActive)
+{
+    InForm([this] {
+        FormBox(u"InMyName"_s)
+            .setText(u"Gertrud"_s); // no focus event comes, as in a window that is not active
+        FormBox(u"InNumLines"_s).setText(u"4"_s);
+        m_form->close();
+    });
+    EXPECT_EQ(File(), "0,6,49,4,\"$\",\"Gertrud\"\r\n");
+    EXPECT_EQ(m_shared.settings.userName, u"Gertrud"_s);
+}
+
+TEST_F(Settings, ANumberOutOfRangeThatWasNeverCheckedIsNotTaken)
+{
+    InForm([this] {
+        FormBox(u"InHiNum"_s).setText(u"99"_s);
+        FormBox(u"InNumLines"_s).setText(QString());
+        m_form->close();
+    });
+    EXPECT_EQ(File(), "0,6,49,1,\"$\",\"\"\r\n");
+    EXPECT_EQ(m_shared.settings.defaultHighest, 49);
+}
+
 TEST_F(Settings, AnEmptiedNameHidesItsLabel)
 {
     m_shared.settings.userName = u"Ann"_s;

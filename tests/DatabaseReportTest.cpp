@@ -144,6 +144,14 @@ TEST(DatabaseReport, TheStatisticsShowEachNumberAboveItsValue)
                            {}}));
 }
 
+TEST(DatabaseReport, TheTopNumbersAreFollowedByTwoBlanks)
+{
+    const PrintedDocument document = Report(Lottery(2, 9, 1));
+    const PrintedPage& page = document.pages.at(0);
+    EXPECT_EQ(page.at(7).at(0).text, u"Showing the count of times numbers drawn. Top  2 =   1   2    "_s);
+    EXPECT_EQ(page.at(9).at(0).text, u" 1   2    "_s);
+}
+
 TEST(DatabaseReport, TheStatisticsShowTheCountThatIsAskedFor)
 {
     const QStringList lines =

@@ -149,6 +149,18 @@ TEST_F(MainWindow, ALongTitleLeavesTheWindowAsLargeAsItWas)
     }
 }
 
+TEST_F(MainWindow, ALongNameLeavesTheWindowAsLargeAsItWas)
+{
+    Start();
+    const QSize before = m_window.size();
+    m_shared.settings.userName = QString(1'000'000, u'W');
+    m_window.Menu().ShowUserName();
+    Settle();
+    EXPECT_EQ(m_window.size(), before);
+    EXPECT_LE(m_window.minimumSizeHint().width(), before.width());
+    EXPECT_TRUE(Find<QLabel>(u"MyName"_s).isVisible());
+}
+
 TEST_F(MainWindow, TheDatabaseIsPrintedAfterYes)
 {
     Start();

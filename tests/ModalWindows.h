@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QList>
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
@@ -17,16 +18,16 @@
     return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
 }
 
-/// Runs @p act on the modal window that opens next over @p below, unless @p owner is gone by then. The act
+/// Runs @p act on the first modal window that is none of @p before, unless @p owner is gone by then. The act
 /// has to close the window: one that stays open fails the test and is closed. The window that shows how far
 /// long work is does not count.
-inline void WhenModalOpensOver(const QWidget* below, const std::function<void(QWidget*)>& act,
-                               QObject* owner = qApp)
+inline void WhenModalIsNoneOf(const QList<QPointer<QWidget>>& before,
+                              const std::function<void(QWidget*)>& act, QObject* owner)
 {
     auto* timer = new QTimer(owner);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, act, below] {
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, act, before] {
         const QPointer<QWidget> modal = QApplication::activeModalWidget();
-        if (modal == nullptr || modal == below || modal->objectName() == QStringLiteral("Progress")) {
+        if (modal == nullptr || before.contains(modal) || modal->objectName() == QStringLiteral("Progress")) {
             return;
         }
         timer->stop();
@@ -41,8 +42,20 @@ inline void WhenModalOpensOver(const QWidget* below, const std::function<void(QW
     timer->start(5);
 }
 
-/// The same for the first modal window.
+/// Runs @p act on the modal window that is open, or opens first.
 inline void WhenModalOpens(const std::function<void(QWidget*)>& act, QObject* owner = qApp)
 {
-    WhenModalOpensOver(nullptr, act, owner);
+    WhenModalIsNoneOf({}, act, owner);
+}
+
+/// Runs @p act on the modal window that opens next; those that are open now do not count.
+inline void WhenNextModalOpens(const std::function<void(QWidget*)>& act, QObject* owner = qApp)
+{
+    QList<QPointer<QWidget>> open;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isModal() && window->isVisible()) {
+            open << window;
+        }
+    }
+    WhenModalIsNoneOf(open, act, owner);
 }

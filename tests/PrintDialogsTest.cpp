@@ -10,7 +10,9 @@
 #include "tests/QtPrinters.h"
 #include "tests/TestFiles.h"
 
+#include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -31,7 +33,8 @@ namespace {
 class CannedPrinters : public PrinterDoor
 {
 public:
-    DefaultPrinter printer{.name = u"Laser"_s, .paper = QPageSize(QPageSize::Letter), .reason = {}};
+    DefaultPrinter printer{
+        .name = u"Laser"_s, .instance = {}, .paper = QPageSize(QPageSize::Letter), .reason = {}};
     Outcome outcome;
     std::vector<PrintedDocument> printed;
     bool anyThread = true;
@@ -131,8 +134,9 @@ TEST_F(PaperPrintingTest, WithoutADefaultPrinterAPdfFileIsAskedForAndPrintedTo)
         .name = {}, .paper = QPageSize(QPageSize::A4), .reason = u"No default destination."_s};
     m_prompts.files = {file};
     m_printing.Print(Pages(3));
-    ASSERT_EQ(m_prompts.notices.size(), 1);
-    EXPECT_TRUE(m_prompts.notices[0].contains(u"There is no default printer."_s));
+    ASSERT_EQ(m_prompts.notices.size(), 2);
+    EXPECT_TRUE(m_prompts.notices[1].contains(file)) << "the user is told where the pages are";
+    EXPECT_TRUE(m_prompts.notices[0].contains(u"There is no printer to print on."_s));
     EXPECT_TRUE(m_prompts.notices[0].contains(u"No default destination."_s));
     EXPECT_EQ(m_prompts.fileDialogModes.back(), kSavePdfFile);
     const QByteArray pdf = BytesOf(file);
@@ -257,7 +261,7 @@ TEST_F(PrintQuestion, AChartIsPrintedInTheInkOfTheSecondAnswer)
         QStringList asked;
         WhenModalOpens([&](QWidget* first) {
             asked << first->findChild<QLabel*>(u"Label1"_s)->text();
-            WhenModalOpensOver(first, [&](QWidget* second) {
+            WhenNextModalOpens([&](QWidget* second) {
                 asked << second->findChild<QLabel*>(u"Label1"_s)->text();
                 EXPECT_FALSE(second->findChild<QPushButton*>(u"PreviewButt"_s)->isVisible());
                 Press(second, color ? u"AllYes"_s : u"AllNo"_s);
@@ -288,7 +292,7 @@ TEST_F(PrintQuestion, ThePreviewShowsThePagesOnThePrintersPaperAndTheQuestionSta
 {
     bool seen = false;
     Request([&](QWidget* question) {
-        WhenModalOpensOver(question, [&](QWidget* window) {
+        WhenNextModalOpens([&](QWidget* window) {
             seen = true;
             auto* preview = qobject_cast<PrintPreview*>(window);
             ASSERT_NE(preview, nullptr);
@@ -304,6 +308,39 @@ TEST_F(PrintQuestion, ThePreviewShowsThePagesOnThePrintersPaperAndTheQuestionSta
     });
     EXPECT_TRUE(seen);
     EXPECT_EQ(m_printers.printed.size(), 1U);
+}
+
+TEST_F(PrintQuestion, ThePreviewSavesItsPagesAsPdf)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"pages.pdf"_s);
+    m_shared.pdfFolder = folder.path();
+    m_shared.dialogFolder = u"/where/lotteries/are"_s;
+    Request([&](QWidget* question) {
+        WhenNextModalOpens([&](QWidget* preview) {
+            WhenNextModalOpens([&](QWidget* window) {
+                auto* dialog = qobject_cast<QDialog*>(window);
+                ASSERT_NE(dialog, nullptr);
+                EXPECT_EQ(dialog->windowTitle(), u"Print to a PDF File"_s);
+                EXPECT_EQ(dialog->parentWidget(), preview);
+                WhenNextModalOpens([&](QWidget* notice) {
+                    EXPECT_TRUE(
+                        notice->findChild<QPlainTextEdit*>(u"TextMsg"_s)->toPlainText().contains(file));
+                    notice->close();
+                });
+                dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(u"pages"_s);
+                dialog->accept();
+            });
+            Press(preview, u"SavePdf"_s);
+            Press(preview, u"ClosePreview"_s);
+        });
+        Press(question, u"PreviewButt"_s);
+        Press(question, u"AllNo"_s);
+    });
+    EXPECT_TRUE(BytesOf(file).contains("/Count 3"));
+    EXPECT_EQ(m_shared.pdfFolder, folder.path());
+    EXPECT_EQ(m_shared.dialogFolder, u"/where/lotteries/are"_s)
+        << "the folder of lotteries is another matter";
 }
 
 namespace {
@@ -471,6 +508,66 @@ TEST(LongWork, GivesBackTheOutcome)
         RunLongWork(nullptr, {}, 0, [](const StepsDone&) { return Outcome::Failure(u"why"_s); });
     EXPECT_FALSE(failed.ok);
     EXPECT_EQ(failed.reason, u"why"_s);
+}
+
+TEST(LongWork, WhatTheUserDoesMeanwhileIsDroppedAndNotDoneAfterwards)
+{
+    QMainWindow window;
+    auto* button = new QPushButton(u"Print"_s, &window);
+    window.setCentralWidget(button);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    int presses = 0;
+    QObject::connect(button, &QPushButton::clicked, &window, [&] { ++presses; });
+    std::binary_semaphore clicked(0);
+    QTimer::singleShot(0, &window, [&] {
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, button->geometry().center());
+        QTest::keyClick(&window, Qt::Key_Space);
+        window.close();
+        clicked.release();
+    });
+    EXPECT_TRUE(RunLongWork(&window, {}, 0, [&](const StepsDone&) {
+                    clicked.acquire();
+                    return Outcome{};
+                }).ok);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(presses, 0);
+    EXPECT_TRUE(window.isVisible());
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, button->geometry().center());
+    EXPECT_EQ(presses, 1) << "afterwards input is taken again";
+}
+
+TEST(LongWork, WorkOnTheThreadOfTheWindowsCannotBeEnteredASecondTime)
+{
+    QMainWindow window;
+    auto* button = new QPushButton(&window);
+    window.setCentralWidget(button);
+    window.show();
+    int presses = 0;
+    QObject::connect(button, &QPushButton::clicked, &window, [&] { ++presses; });
+    QTimer impatient;
+    QObject::connect(&impatient, &QTimer::timeout, &window, [&] {
+        QTest::keyClick(&window, Qt::Key_Escape);
+        QTest::mouseClick(button, Qt::LeftButton);
+    });
+    impatient.start(1);
+    bool shown = false;
+    EXPECT_TRUE(RunWorkHere(&window, {}, 1000, [&](const StepsDone& done) {
+                    // As many steps as it takes until the progress is shown, and some more.
+                    for (int step = 0; step < 1000 && !shown; ++step) {
+                        QThread::msleep(2);
+                        done(step);
+                        auto* progress = window.findChild<QProgressDialog*>(u"Progress"_s);
+                        shown = progress != nullptr && progress->isVisible();
+                    }
+                    for (int step = 990; step < 1000; ++step) {
+                        QThread::msleep(2);
+                        done(step);
+                    }
+                    return Outcome{};
+                }).ok);
+    EXPECT_TRUE(shown);
+    EXPECT_EQ(presses, 0);
 }
 
 TEST(LongWork, KeepsTheWindowAliveAndShowsHowFarItIsWhenItTakesLong)

@@ -113,6 +113,24 @@ TEST(Printout, ControlCharactersPrintAsBlanks)
     EXPECT_EQ(PageLines(printout.Document(), 1), (QStringList{{}, u"a b  c d"_s}));
 }
 
+TEST(Printout, EveryPrintedCharacterIsOneColumnWide)
+{
+    Printout printout = Prepared();
+    printout.PrintLine(u"Lotería Łódź Λαχείο Лото €"_s); // a fixed-pitch font has these
+    printout.PrintLine(u"宝くじ 6/49"_s);                // these are two columns wide
+    printout.PrintLine(u"lucky \U0001F340!"_s);          // a pair of surrogates is one character
+    printout.PrintLine(u"Loteri\u0301a \u200Fx"_s);      // a mark, and a sign that only turns the direction
+    EXPECT_EQ(
+        PageLines(printout.Document(), 1),
+        (QStringList{{}, u"Lotería Łódź Λαχείο Лото €"_s, u"??? 6/49"_s, u"lucky ?!"_s, u"Lotería x"_s}));
+}
+
+TEST(Printout, ADocumentIsNamedInAHundredCharacters)
+{
+    EXPECT_EQ(Printout(QString(70'000, u'n'), kStandardFont).Document().name, QString(100, u'n'));
+    EXPECT_EQ(Printout(u"two\r\nlines"_s, kStandardFont).Document().name, u"two lines"_s);
+}
+
 TEST(Printout, ALineThatNoLongerFitsTheSheetStartsANewPage)
 {
     Printout printout = Prepared();
