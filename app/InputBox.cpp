@@ -17,8 +17,8 @@
 
 namespace {
 
-/// Lets a pasted or composed text in only if each of its characters may be typed. Blanks pass, since the
-/// program itself writes numbers right-justified.
+/// Lets a text in only if each of its characters may be typed. Blanks pass, since the program itself writes
+/// numbers right-justified; those that a user types or composes are refused before.
 class CharacterValidator : public QValidator
 {
 public:
@@ -162,11 +162,18 @@ void InputBox::keyPressEvent(QKeyEvent* event)
 void InputBox::inputMethodEvent(QInputMethodEvent* event)
 {
     const QString composed = event->commitString();
-    const bool taken =
-        std::all_of(composed.cbegin(), composed.cend(), [this](QChar ch) { return Takes(ch); });
-    if (m_shared != nullptr && !composed.isEmpty() && taken) {
-        BeginEdit();
+    if (m_shared == nullptr || composed.isEmpty()) {
+        QLineEdit::inputMethodEvent(event);
+        return;
     }
+    if (!std::all_of(composed.cbegin(), composed.cend(), [this](QChar ch) { return Takes(ch); })) {
+        Refuse();
+        // The line itself would take blanks. It only learns what is still being composed.
+        QInputMethodEvent rest(event->preeditString(), event->attributes());
+        QLineEdit::inputMethodEvent(&rest);
+        return;
+    }
+    BeginEdit();
     QLineEdit::inputMethodEvent(event);
 }
 

@@ -50,7 +50,7 @@ public:
 Q_SIGNALS:
     /// The box was left and its message is due; its text has been put right already.
     void MessageDue(const Message& message);
-    /// A key or a pasted text was refused, with a beep.
+    /// A key, or a pasted or composed text, was refused, with a beep.
     void KeyRefused();
 
 protected:

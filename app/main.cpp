@@ -153,6 +153,12 @@ int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const Comm
     const auto openStatement = [](WorkingForm& form) {
         dynamic_cast<LInvTrack&>(form).OpenNamedFile(kSampleStatement);
     };
+    const auto typeNumbers = [](WorkingForm& form) {
+        int box = 0;
+        for (const int number : {8, 3, 1, 32, 19, 4}) { // drawn in the sample's third record
+            form.findChild<InputBox*>(u"CInYourNum%1"_s.arg(box++))->setText(QString::number(number));
+        }
+    };
     const Tour tour{
         .stops = {{FormName::LotoMenu, u"LotoMenu"_s, {}},
                   {FormName::LDbase, u"LDbase"_s, {}},
@@ -165,6 +171,7 @@ int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const Comm
                   {FormName::Lottery, u"Lottery-sets"_s, u"CalcAllNum"_s},
                   {FormName::Lottery, u"Lottery-help"_s, u"PHelp"_s},
                   {FormName::LCheckWin, u"LCheckWin"_s, {}},
+                  {FormName::LCheckWin, u"LCheckWin-results"_s, u"CCalc"_s, typeNumbers},
                   {FormName::LCheckWin, u"LCheckWin-help"_s, u"CHelp"_s},
                   {FormName::LInvTrack, u"LInvTrack"_s, {}, openStatement},
                   {FormName::LInvTrack, u"LInvTrack-help"_s, u"IHelp"_s, openStatement}},

@@ -40,6 +40,7 @@ LCheckWin::~LCheckWin() = default;
 void LCheckWin::SetUpGrid()
 {
     m_ui->CGrid->setModel(&m_matches);
+    m_aboutGrid = m_ui->CGrid->accessibleDescription();
     m_ui->CGrid->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_ui->CGrid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_ui->CGrid->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
@@ -63,12 +64,15 @@ void LCheckWin::SetUpBoxes()
 
     for (std::size_t i = 0; i < CInYourNum.size(); ++i) {
         InputRules number;
+        number.click = InputRules::Click::SelectsText; // a stray click takes no number out of a ticket
         number.next = [this, i]() -> QWidget* {
             const auto picks = static_cast<std::size_t>(Shared().database.Shape().picks);
             return i + 1 >= picks ? static_cast<QWidget*>(m_ui->CCalc) : CInYourNum.at(i + 1);
         };
         CInYourNum.at(i)->setAccessibleName(u"Number %1 to check"_s.arg(i + 1));
         CInYourNum.at(i)->Follow(Shared(), number);
+        // Else "No Matches" would stand under numbers that it was not said of.
+        connect(CInYourNum.at(i), &QLineEdit::textChanged, this, &LCheckWin::ClearCGrid);
     }
 }
 
@@ -89,9 +93,7 @@ void LCheckWin::Load()
     m_search = {}; // what was found before, maybe in another database, is not printed any more
     m_ui->TitleCheck->setText(database.title);
     m_ui->MatchNum->setText(database.Shape().picks < kUsualMinimum ? u" 1"_s : u" 3"_s);
-    for (InputBox* box : CInYourNum) {
-        box->clear();
-    }
+    EmptyBoxes();
     ShowHelp(false);
     m_gridRows = kFewestGridRows;
     MakeCGrid();
@@ -106,6 +108,7 @@ void LCheckWin::MakeCGrid()
         CInYourNum.at(i)->setVisible(static_cast<int>(i) < picks);
     }
     m_matches.Build(m_gridRows, picks);
+    SayOfGrid({});
     SizeColumns();
     m_ui->CGrid->scrollToTop();
 }
@@ -139,6 +142,20 @@ void LCheckWin::resizeEvent(QResizeEvent* event)
 void LCheckWin::ClearCGrid()
 {
     m_matches.Clear();
+    SayOfGrid({});
+}
+
+void LCheckWin::SayOfGrid(const QString& found)
+{
+    m_ui->CGrid->setToolTip(found);
+    m_ui->CGrid->setAccessibleDescription(found.isEmpty() ? m_aboutGrid : found + u' ' + m_aboutGrid);
+}
+
+void LCheckWin::EmptyBoxes()
+{
+    for (InputBox* box : CInYourNum) {
+        box->setText({}); // not clear(), which Ctrl+Z would take back
+    }
 }
 
 std::optional<Message> LCheckWin::LeaveMinimum(InputBox& box, bool edited)
@@ -194,6 +211,7 @@ void LCheckWin::Search(const QStringList& numbers, int minimum)
 
     m_gridRows = m_search.matchCount + kSpareRows;
     MakeCGrid();
+    SayOfGrid(FoundText(m_search));
     if (m_search.matchCount == 0) {
         m_matches.FillNoMatches();
         return;
@@ -204,9 +222,7 @@ void LCheckWin::Search(const QStringList& numbers, int minimum)
 
 void LCheckWin::ClearAll()
 {
-    for (InputBox* box : CInYourNum) { // the minimum stays
-        box->clear();
-    }
+    EmptyBoxes(); // the minimum stays
     ClearCGrid();
     CInYourNum.front()->setFocus();
 }

@@ -92,6 +92,22 @@ QString DrawDateText(const Cell& date, const QLocale& locale)
     return day ? ShortDate(*day, locale) : CellText(date);
 }
 
+QString FoundText(const WinnerSearch& search)
+{
+    QStringList numbers;
+    for (const int number : search.query.yourNumbers) {
+        if (number > 0) {
+            numbers << QString::number(number);
+        }
+    }
+    const QString draws = search.matchCount == 0   ? u"No draw holds"_s
+                          : search.matchCount == 1 ? u"1 draw holds"_s
+                                                   : u"%1 draws hold"_s.arg(search.matchCount);
+    return u"%1 at least %2 of these numbers: %3."_s.arg(draws)
+        .arg(search.query.minimum)
+        .arg(numbers.join(u", "_s));
+}
+
 void PrintWinners(Printout& printout, const WinnerSearch& search, const std::vector<DrawRecord>& results,
                   const QLocale& locale)
 {

@@ -21,6 +21,9 @@ struct WinnerSearch {
 /// The day of a draw as Short Date; a text that is no date as it stands.
 [[nodiscard]] QString DrawDateText(const Cell& date, const QLocale& locale);
 
+/// What a search found, in a sentence: how many draws, with which minimum, of which numbers.
+[[nodiscard]] QString FoundText(const WinnerSearch& search);
+
 /// Prints the draws that a search found, newest first, each matching number under the position in which it
 /// was drawn. A page that is full ends with its number, and the next one repeats the headings.
 ///

@@ -9,7 +9,7 @@ namespace {
 
 bool IsFilled(const QString& box)
 {
-    return !box.trimmed().isEmpty();
+    return !box.isEmpty();
 }
 
 /// Says of a cell in how many of the player's boxes its number stands, with one look into a table.
@@ -32,15 +32,14 @@ public:
             const auto number = static_cast<std::size_t>(*whole);
             return number < m_boxes.size() ? m_boxes[number] : 0;
         }
-        const double* real = std::get_if<double>(&cell);
-        return real == nullptr ? 0 : CountOf(*real);
+        return CountOf(CellNumber(cell));
     }
 
 private:
-    [[nodiscard]] int CountOf(double real) const
+    [[nodiscard]] int CountOf(double value) const
     {
-        const bool isNumber = real >= 1 && real <= kMostNumbers && real == std::floor(real);
-        return isNumber ? m_boxes[static_cast<std::size_t>(real)] : 0;
+        const bool isNumber = value >= 1 && value <= kMostNumbers && value == std::floor(value);
+        return isNumber ? m_boxes[static_cast<std::size_t>(value)] : 0;
     }
 
     std::array<quint8, kMostNumbers + 1> m_boxes{}; ///< entry n: how many boxes hold n; none holds 0
@@ -127,6 +126,8 @@ int ListWinners(const DrawDatabase& database, const WinnerQuery& query, std::vec
         DrawRecord& row = results[i + 1];
         row.number = record.number;
         row.date = record.date;
+        // Asked once more: to note the places of every record in the search would cost more than it saves
+        // here.
         for (std::size_t pick = 0; pick < picks; ++pick) {
             if (yours.CountIn(record.drawn[pick]) > 0) {
                 row.drawn[pick] = record.drawn[pick];

@@ -39,8 +39,9 @@ struct WinnerFault {
 /// The rows of all records that share at least the minimum of numbers with the player's, oldest first.
 ///
 /// Every place of a record that holds one of the numbers is a match, so a record that holds a number twice
-/// has two. A cell holds a number as CellHolds says. An empty box is no number: it matches nothing, not even
-/// the 0 of a record that was never filled in.
+/// has two. A cell holds the number that the editor shows and saving writes, also when a file brought it as a
+/// text; a number with a fraction is none. An empty box is no number: it matches nothing, not even the 0 of a
+/// record that was never filled in.
 [[nodiscard]] std::vector<int> FindWinners(const DrawDatabase& database, const WinnerQuery& query);
 
 /// Searches, and makes the result list anew: row 0 is not used, rows 1.. are the draws found, oldest first.

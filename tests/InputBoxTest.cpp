@@ -270,6 +270,38 @@ TEST_F(InputBoxes, WhatAnInputMethodComposesFollowsTheSameRule)
     EXPECT_EQ(m_box.text(), u"7"_s);
 }
 
+TEST_F(InputBoxes, AnInputMethodBringsNoBlankIntoABoxOfDigits)
+{
+    FollowOneToTen();
+    m_box.setText(u"10"_s);
+    Enter();
+    for (const QString& composed : {u" "_s, u" 6"_s, u"6 "_s, u"\t"_s, u"\u3000"_s}) {
+        QInputMethodEvent event;
+        event.setCommitString(composed);
+        QApplication::sendEvent(&m_box, &event);
+        EXPECT_EQ(m_box.text(), u"10"_s) << composed.toStdString();
+    }
+    EXPECT_EQ(m_refused, 5);
+    EXPECT_EQ(m_shared.entryEdited, 0);
+}
+
+TEST_F(InputBoxes, ARefusedCompositionReplacesNothingAndWhatIsStillComposedGoesOn)
+{
+    FollowOneToTen();
+    m_box.setText(u"10"_s);
+    Enter();
+    m_box.end(false);
+    QInputMethodEvent refused(u"7"_s, {});
+    refused.setCommitString(u"x"_s, -1, 1); // would take the 0 away
+    QApplication::sendEvent(&m_box, &refused);
+    EXPECT_EQ(m_box.text(), u"10"_s);
+    EXPECT_EQ(m_refused, 1);
+    QInputMethodEvent done(QString(), {});
+    done.setCommitString(u"7"_s);
+    QApplication::sendEvent(&m_box, &done);
+    EXPECT_EQ(m_box.text(), u"7"_s);
+}
+
 TEST_F(InputBoxes, LeavingTheWindowForAnotherProgramChecksNothing)
 {
     FollowOneToTen();

@@ -4,14 +4,18 @@
 #include "picks/WinnersHelp.h"
 #include "tests/FormBench.h"
 #include "tests/PrintedPages.h"
+#include "tests/TestFiles.h"
 
 #include <QClipboard>
 #include <QFrame>
 #include <QGroupBox>
+#include <QHelpEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QSignalSpy>
+#include <QToolTip>
 
 using namespace Qt::StringLiterals;
 
@@ -91,6 +95,46 @@ protected:
             }
         }
         return true;
+    }
+    /// Opens a file as a user does, from the menu, and leaves the editor. @return the first number of each
+    /// record as the editor shows it, oldest first
+    QStringList OpenFile(const QString& path)
+    {
+        m_prompts.files = {path};
+        Click(u"LoadFile"_s);
+        Settle();
+        QStringList shown;
+        for (int record = 1; record <= m_shared.database.count; ++record) {
+            shown << Cell(u"DGrid1"_s, m_shared.database.count - record, 2).trimmed();
+        }
+        Click(u"DExit"_s);
+        Settle();
+        return shown;
+    }
+    /// For each of the numbers 1..60 the records that the check lists, newest first: "7: 4 3, 8: 5".
+    QString RecordsOfEachNumber()
+    {
+        QStringList found;
+        OpenForm();
+        for (int number = 1; number <= 60; ++number) {
+            Check(u"1"_s, {QString::number(number)});
+            QStringList records;
+            for (int row = 0; !Row(row).first().isEmpty(); ++row) {
+                records << Row(row).first().trimmed();
+            }
+            if (!records.isEmpty()) {
+                found << u"%1: %2"_s.arg(number).arg(records.join(u' '));
+            }
+        }
+        Click(u"CExit"_s);
+        Settle();
+        return found.join(u", "_s);
+    }
+    /// Changes a box behind the form's back, so that nothing but the check itself can empty the grid.
+    void SetUnheard(int box, const QString& text)
+    {
+        const QSignalBlocker quiet(&YourNumber(box));
+        YourNumber(box).setText(text);
     }
     bool HelpIsOpen() { return Find<QPlainTextEdit>(u"CTextBox"_s).isVisible(); }
 };
@@ -282,6 +326,21 @@ TEST_F(WinnerCheck, EnterGoesFromBoxToBoxAndFromTheLastToTheButtonThatChecks)
                                    u"CInYourNum4"_s, u"CInYourNum5"_s, u"CCalc"_s}));
 }
 
+TEST_F(WinnerCheck, EnterInTheLastBoxLeadsToTheButtonWhateverThePicks)
+{
+    Start();
+    for (const int picks : {1, 2, 10}) {
+        SetDraws(picks, 60, {{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}});
+        OpenForm();
+        for (int i = 0; i < picks; ++i) {
+            EXPECT_EQ(FocusName(), u"CInYourNum%1"_s.arg(i));
+            QTest::keyClick(m_window.focusWidget(), Qt::Key_Return);
+        }
+        EXPECT_EQ(FocusName(), u"CCalc"_s) << picks;
+        Click(u"CExit"_s);
+    }
+}
+
 TEST_F(WinnerCheck, EnterOnTheButtonChecks)
 {
     OpenWith(3);
@@ -300,6 +359,35 @@ TEST_F(WinnerCheck, OnlyDigitsAndBackspaceAreTaken)
     EXPECT_EQ(refused.count(), 4);
     QTest::keyClick(&YourNumber(0), Qt::Key_Backspace);
     EXPECT_EQ(YourNumber(0).text(), u"1"_s);
+}
+
+TEST_F(WinnerCheck, AClickOnANumberKeepsItAndTypingReplacesIt)
+{
+    OpenWith(10);
+    Enter(u"1"_s, {u"12"_s, u"34"_s});
+    QTest::mouseClick(&YourNumber(0), Qt::LeftButton);
+    EXPECT_EQ(YourNumber(0).text(), u"12"_s);
+    YourNumber(1).setFocus();
+    EXPECT_EQ(YourNumber(0).text(), u"12"_s);
+    QTest::mouseClick(&YourNumber(0), Qt::LeftButton);
+    QTest::mouseClick(&YourNumber(0), Qt::LeftButton); // also once more
+    EXPECT_EQ(YourNumber(0).text(), u"12"_s);
+    QTest::mouseClick(&YourNumber(1), Qt::LeftButton);
+    QTest::keyClicks(&YourNumber(1), u"5"_s);
+    EXPECT_EQ(YourNumber(1).text(), u"5"_s);
+}
+
+TEST_F(WinnerCheck, ANumberReachedByTabIsReplacedByTyping)
+{
+    OpenWith(10);
+    Enter(u"1"_s, {u"12"_s, u"34"_s});
+    YourNumber(0).setFocus();
+    QTest::keyClick(m_window.focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(FocusName(), u"CInYourNum1"_s);
+    EXPECT_EQ(YourNumber(1).text(), u"34"_s);
+    QTest::keyClicks(&YourNumber(1), u"49"_s);
+    EXPECT_EQ(YourNumber(1).text(), u"49"_s);
+    EXPECT_EQ(YourNumber(0).text(), u"12"_s);
 }
 
 TEST_F(WinnerCheck, AClickEmptiesTheMinimumAndTypingReplacesIt)
@@ -345,6 +433,41 @@ TEST_F(WinnerCheck, AMinimumOutOfRangeBringsItsMessageAndThePicks)
         EXPECT_EQ(LastMessage(), u"Must be from  1  to  6"_s);
         EXPECT_EQ(Box(u"MatchNum"_s).text(), u"6"_s);
     }
+}
+
+TEST_F(WinnerCheck, TheMessageOfTheMinimumNamesThePicks)
+{
+    Start();
+    const struct {
+        int picks;
+        QString text;
+    } cases[] = {{1, u"Must be from  1  to  1"_s},
+                 {2, u"Must be from  1  to  2"_s},
+                 {10, u"Must be from  1  to  10"_s}};
+    for (const auto& entry : cases) {
+        SetDraws(entry.picks, 60, {{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}});
+        OpenForm();
+        for (const int typed : {0, entry.picks + 1}) {
+            m_prompts.expectedMessages = {17};
+            TypeInto(u"MatchNum"_s, QString::number(typed));
+            QTest::keyClick(&Box(u"MatchNum"_s), Qt::Key_Return);
+            Settle();
+            EXPECT_TRUE(m_prompts.expectedMessages.empty()) << typed;
+            EXPECT_EQ(LastMessage(), entry.text);
+            EXPECT_EQ(Box(u"MatchNum"_s).text(), QString::number(entry.picks));
+        }
+        Click(u"CExit"_s);
+    }
+}
+
+TEST_F(WinnerCheck, AMinimumThatIsNoShortNumberAsksForAllPicks)
+{
+    OpenWith(3);
+    Enter(u"1"_s, {u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s});
+    Box(u"MatchNum"_s).setText(u"99999"_s); // not typed, so nothing has put it right
+    Click(u"CCalc"_s);
+    EXPECT_EQ(Row(0).first(), u"   1"_s);
+    EXPECT_EQ(Row(1).join(QString()), QString());
 }
 
 TEST_F(WinnerCheck, AnEmptiedMinimumKeepsTheSearchFromRunning)
@@ -405,6 +528,51 @@ TEST_F(WinnerCheck, EveryMistakeBringsItsMessageAndLeavesTheGridEmpty)
     }
 }
 
+TEST_F(WinnerCheck, ACheckThatFailsEmptiesTheGridItself)
+{
+    const struct {
+        QString changed; ///< the second number; the first is 6
+        int message;
+    } cases[] = {{u"0"_s, 38}, {u"50"_s, 5}, {u"6"_s, 37}, {{}, 42}};
+    OpenWith(49);
+    for (const auto& entry : cases) {
+        Check(u"2"_s, {u"6"_s, u"7"_s});
+        EXPECT_FALSE(GridIsEmpty());
+        SetUnheard(1, entry.changed);
+        EXPECT_FALSE(GridIsEmpty());
+        ExpectMessage(entry.message);
+        EXPECT_TRUE(GridIsEmpty()) << entry.message;
+        EXPECT_EQ(GridRows(), 20);
+        EXPECT_EQ(Find<QTableView>(u"CGrid"_s).toolTip(), QString());
+        ExpectMessage(1, u"CPrinter"_s);
+    }
+}
+
+TEST_F(WinnerCheck, ACheckThatFailsTakesNoMatchesAway)
+{
+    OpenWith(10);
+    Check(u"1"_s, {u"49"_s});
+    EXPECT_EQ(Row(0).at(1), u"No Matches"_s);
+    m_shared.database.highest = 48; // the numbers and the minimum stay
+    ExpectMessage(5);
+    EXPECT_TRUE(GridIsEmpty());
+}
+
+TEST_F(WinnerCheck, TenNumbersUpToSixtyAreTakenAndSixtyOneIsNot)
+{
+    Start();
+    SetDraws(10, 60, {{60, 9, 8, 7, 6, 5, 4, 3, 2, 1}});
+    OpenForm();
+    QStringList numbers{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s, u"8"_s, u"9"_s, u"60"_s};
+    Check(u"10"_s, numbers);
+    EXPECT_EQ(Row(0).join(QString()), u"   13/5/2024 60  9  8  7  6  5  4  3  2  1"_s);
+    numbers.last() = u"61"_s;
+    Enter(u"10"_s, numbers);
+    ExpectMessage(5);
+    EXPECT_EQ(LastMessage(), u"Correct: number 61 is higher than allowed in Draw."_s);
+    EXPECT_TRUE(GridIsEmpty());
+}
+
 TEST_F(WinnerCheck, EveryNumberFromOneToTheHighestIsTaken)
 {
     OpenWith(49); // record 44 is the first to hold the 49, record 1 holds the 1
@@ -446,6 +614,82 @@ TEST_F(WinnerCheck, NothingFoundIsSaidInRowOneColumnOne)
     EXPECT_EQ(GridRows(), 20);
     ExpectMessage(1, u"CPrinter"_s);
     EXPECT_EQ(LastMessage(), u"No data to print."_s);
+}
+
+TEST_F(WinnerCheck, ChangingANumberEmptiesTheGridAndKeepsTheResultsForThePrinter)
+{
+    OpenWith(10);
+    Check(u"1"_s, {u"6"_s, u"7"_s});
+    YourNumber(1).setFocus(Qt::TabFocusReason); // looking at a number changes nothing
+    QTest::mouseClick(&YourNumber(0), Qt::LeftButton);
+    EXPECT_FALSE(GridIsEmpty());
+    QTest::keyClicks(&YourNumber(0), u"x"_s); // refused
+    EXPECT_FALSE(GridIsEmpty());
+    QTest::keyClicks(&YourNumber(0), u"4"_s);
+    EXPECT_TRUE(GridIsEmpty());
+    m_prompts.answers = {true};
+    Click(u"CPrinter"_s);
+    ASSERT_EQ(m_prompts.printed.size(), 1U);
+    EXPECT_EQ(PageLines(m_prompts.printed.front(), 1).at(8), u"Enter numbers to check:   6   7"_s);
+}
+
+TEST_F(WinnerCheck, NoMatchesNeverStandsUnderOtherNumbers)
+{
+    OpenWith(10);
+    for (int box = 0; box < 6; ++box) {
+        Click(u"CClearAll"_s);
+        Check(u"1"_s, {u"49"_s});
+        EXPECT_EQ(Row(0).at(1), u"No Matches"_s);
+        TypeInto(u"CInYourNum%1"_s.arg(box), u"3"_s);
+        EXPECT_TRUE(GridIsEmpty()) << box;
+        Click(u"CCalc"_s);
+        EXPECT_EQ(Row(0).first(), u"   3"_s);
+        QTest::keyClick(&YourNumber(box), Qt::Key_Backspace);
+        EXPECT_TRUE(GridIsEmpty()) << box;
+    }
+}
+
+TEST_F(WinnerCheck, TheGridSaysForWhichMinimumNothingWasFound)
+{
+    OpenWith(10);
+    auto& grid = Find<QTableView>(u"CGrid"_s);
+    const QString before = grid.accessibleDescription();
+    EXPECT_EQ(grid.toolTip(), QString());
+    Check(u"2"_s, {u"1"_s, u"49"_s});
+    const QString found = u"No draw holds at least 2 of these numbers: 1, 49."_s;
+    EXPECT_EQ(grid.toolTip(), found);
+    EXPECT_EQ(grid.accessibleDescription(), found + u' ' + before);
+    const QPoint cell = grid.visualRect(Grid().index(0, 1)).center();
+    QHelpEvent pointing(QEvent::ToolTip, cell, grid.viewport()->mapToGlobal(cell));
+    QApplication::sendEvent(grid.viewport(), &pointing);
+    EXPECT_EQ(QToolTip::text(), found);
+    QToolTip::hideText();
+
+    Check(u"1"_s, {u"10"_s, u"11"_s});
+    EXPECT_EQ(grid.toolTip(), u"6 draws hold at least 1 of these numbers: 10, 11."_s);
+    TypeInto(u"MatchNum"_s, u"2"_s);
+    YourNumber(0).setFocus();
+    EXPECT_EQ(grid.toolTip(), QString());
+    EXPECT_EQ(grid.accessibleDescription(), before);
+    Click(u"CCalc"_s);
+    EXPECT_EQ(grid.toolTip(), u"5 draws hold at least 2 of these numbers: 10, 11."_s);
+    Click(u"CExit"_s);
+    OpenForm();
+    EXPECT_EQ(grid.toolTip(), QString());
+    EXPECT_EQ(grid.accessibleDescription(), before);
+}
+
+TEST_F(WinnerCheck, ASearchLeavesTheBoxesThatWereChecked)
+{
+    OpenWith(10);
+    Enter(u"1"_s, {u"3"_s});
+    SetDraws(3, 49, {{3, 4, 5}}); // another shape since the form was opened
+    Click(u"CCalc"_s);
+    EXPECT_EQ(Row(0), (QStringList{u"   1"_s, u"3/5/2024"_s, u"  3"_s, {}, {}}));
+    EXPECT_TRUE(YourNumber(5).isVisible());
+    Form().MakeCGrid(); // outside of a search they follow the shape
+    EXPECT_FALSE(YourNumber(3).isVisible());
+    EXPECT_TRUE(YourNumber(2).isVisible());
 }
 
 TEST_F(WinnerCheck, ADatabaseEmptiedUnderTheFormHasNoMatches)
@@ -592,6 +836,129 @@ TEST_F(WinnerCheck, LeavingShowsTheMenuAndOpeningAgainStartsAnew)
     EXPECT_TRUE(GridIsEmpty());
     EXPECT_FALSE(HelpIsOpen());
     ExpectMessage(1, u"CPrinter"_s);
+}
+
+TEST_F(WinnerCheck, UndoBringsNothingBackThatWasTypedBefore)
+{
+    OpenWith(10);
+    Check(u"2"_s, {u"3"_s, u"4"_s});
+    Click(u"CClearAll"_s);
+    QTest::keySequence(&YourNumber(0), QKeySequence::Undo);
+    EXPECT_EQ(YourNumber(0).text(), QString());
+    Enter(u"2"_s, {u"5"_s, u"6"_s});
+    Click(u"CExit"_s);
+    OpenForm();
+    for (const QString& name : {u"CInYourNum0"_s, u"CInYourNum1"_s, u"MatchNum"_s}) {
+        const QString before = Box(name).text();
+        Box(name).setFocus(Qt::TabFocusReason);
+        QTest::keySequence(&Box(name), QKeySequence::Undo);
+        EXPECT_EQ(Box(name).text(), before) << name.toStdString();
+    }
+}
+
+// Files
+
+TEST_F(WinnerCheck, WhatAFileBringsIsSearchedAsItIsShownAndSaved)
+{
+    const struct {
+        QByteArray field;
+        QString shown;
+        QByteArray saved;
+    } cases[] = {
+        {"7", u"7"_s, "7"},
+        {"\"7\"", u"7"_s, "7"},
+        {"\" 07 \"", u"7"_s, "7"},
+        {"7;", u"7"_s, "7"},
+        {"#7#", u"7"_s, "7"},
+        {"7.0", u"7"_s, "7"},
+        {"\"7.0\"", u"7"_s, "7"},
+        {"12*", u"12"_s, "12"},
+        {"\"3 0\"", u"30"_s, "30"},
+        {"1e1", u"10"_s, "10"},
+        {"60", u"60"_s, "60"},
+        {"61", u"61"_s, "61"},
+        {"-7", u"-7"_s, "-7"},
+        {"8.5", u"9"_s, "8.5"}, // a fraction is no number of a lottery, before and after
+        {"\"8.5\"", u"9"_s, "8.5"},
+        {"abc", {}, "0"},
+        {"\"\"", {}, "0"},
+        {"", {}, "0"},
+        {"0", {}, "0"},
+        {"#2004-03-10#", u"200"_s, "2004"}, // shown three characters wide
+    };
+    const QString expected = u"7: 7 6 5 4 3 2 1, 10: 10, 12: 8, 30: 9, 60: 11"_s;
+    QByteArray before = "20,3,60,\"Cells\"\r\n" + QByteArray(",0\r\n").repeated(10);
+    QByteArray after = before;
+    QStringList shown;
+    int record = 0;
+    for (const auto& entry : cases) {
+        const QByteArray head = QByteArray::number(++record) + ",#2024-03-05#,";
+        before += head + entry.field + ",0,0,0,0,0,0,0,0,0\r\n";
+        after += head + entry.saved + ",0,0,0,0,0,0,0,0,0\r\n";
+        shown << entry.shown;
+    }
+    Start();
+    const QString path = m_folder.filePath(u"Cells.Lto"_s);
+    Place(path, before);
+    EXPECT_EQ(OpenFile(path), shown);
+    EXPECT_EQ(RecordsOfEachNumber(), expected);
+    m_prompts.files = {path};
+    Click(u"SaveFile"_s);
+    EXPECT_EQ(BytesOf(path), after);
+    OpenFile(path);
+    EXPECT_EQ(RecordsOfEachNumber(), expected) << "saved and opened again";
+}
+
+TEST_F(WinnerCheck, ANumberThatAFileBringsAsTextIsShownAndPrintedInItsPlace)
+{
+    Start();
+    const QString path = m_folder.filePath(u"Texts.Lto"_s);
+    Place(path, "1,5,49,\"Texts\"\r\n" + QByteArray(",0\r\n").repeated(10) +
+                    "1,#2024-03-05#,5,\"7\",12*,0,0,0,0,0,0,0\r\n");
+    OpenFile(path);
+    OpenForm();
+    Check(u"2"_s, {u"12"_s, u"7"_s});
+    EXPECT_EQ(Row(0), (QStringList{u"   1"_s, u"3/5/2024"_s, {}, u"  7"_s, u" 12"_s}));
+    m_prompts.answers = {true};
+    Click(u"CPrinter"_s);
+    ASSERT_EQ(m_prompts.printed.size(), 1U);
+    EXPECT_EQ(PageLines(m_prompts.printed.front(), 1).last(), u"    1  3/5/2024                  7   12"_s);
+}
+
+TEST_F(WinnerCheck, AFileOpenedAfterASearchIsSearchedAnew)
+{
+    OpenWith(10);
+    const QString path = m_folder.filePath(u"New.Lto"_s);
+    Place(path,
+          "1,4,9,\"New\"\r\n" + QByteArray(",0\r\n").repeated(10) + "1,#2024-03-05#,8,9,0,0,0,0,0,0,0,0\r\n");
+    Check(u"1"_s, {u"6"_s});
+    EXPECT_EQ(Row(5).first(), u"   1"_s);
+    // Opened while the results are shown.
+    m_window.Menu().OpenNamedFile(path);
+    Settle();
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+    EXPECT_EQ(m_shared.database.title, u"New"_s);
+    Click(u"DExit"_s);
+    OpenForm();
+    EXPECT_EQ(TextOf(u"TitleCheck"_s), u"New"_s);
+    EXPECT_TRUE(GridIsEmpty());
+    EXPECT_EQ(YourNumber(0).text(), QString());
+    EXPECT_FALSE(YourNumber(2).isVisible());
+    ExpectMessage(1, u"CPrinter"_s);
+    Check(u"1"_s, {u"6"_s});
+    EXPECT_EQ(Row(0).at(1), u"No Matches"_s);
+    Check(u"1"_s, {u"9"_s});
+    EXPECT_EQ(Row(0), (QStringList{u"   1"_s, u"3/5/2024"_s, {}, u"  9"_s}));
+    // And from the menu.
+    Click(u"CExit"_s);
+    Place(path, "1,3,9,\"Newer\"\r\n" + QByteArray(",0\r\n").repeated(10) +
+                    "1,#2024-03-05#,4,0,0,0,0,0,0,0,0,0\r\n");
+    EXPECT_EQ(OpenFile(path), QStringList{u"4"_s});
+    OpenForm();
+    EXPECT_TRUE(GridIsEmpty());
+    ExpectMessage(1, u"CPrinter"_s);
+    Check(u"1"_s, {u"4"_s});
+    EXPECT_EQ(Row(0), (QStringList{u"   1"_s, u"3/5/2024"_s, u"  4"_s}));
 }
 
 // Printing

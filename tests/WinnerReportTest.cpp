@@ -61,6 +61,19 @@ Report ManyWinners(int draws)
     return report;
 }
 
+TEST(WinnerReport, WhatWasFoundIsSaidInASentence)
+{
+    Report report(6);
+    report.Ask({6, 0, 12}, 2);
+    EXPECT_EQ(FoundText(report.search), u"No draw holds at least 2 of these numbers: 6, 12."_s);
+    report.Draw({6, 12, 30, 44, 5, 49});
+    report.Draw({6, 13, 30, 44, 5, 49});
+    report.Ask({6, 0, 12}, 2);
+    EXPECT_EQ(FoundText(report.search), u"1 draw holds at least 2 of these numbers: 6, 12."_s);
+    report.Ask({6, 0, 0}, 1);
+    EXPECT_EQ(FoundText(report.search), u"2 draws hold at least 1 of these numbers: 6."_s);
+}
+
 TEST(WinnerReport, SixPicksPrintEachMatchUnderItsPosition)
 {
     Report report(6);
