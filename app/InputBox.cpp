@@ -190,8 +190,11 @@ void InputBox::mouseReleaseEvent(QMouseEvent* event)
     if (m_rules.click == InputRules::Click::EmptiesBox) {
         m_shared->entryEdited = 1;
         clear();
-    } else if (std::exchange(m_selectOnRelease, false) && !hasSelectedText()) {
-        selectAll();
+    } else {
+        const bool first = std::exchange(m_selectOnRelease, false) && !hasSelectedText();
+        if (first || m_rules.click == InputRules::Click::SelectsTextEachTime) {
+            selectAll();
+        }
     }
 }
 
@@ -202,7 +205,7 @@ void InputBox::focusInEvent(QFocusEvent* event)
         return;
     }
     QApplication::clipboard()->clear(); // so that nothing can be pasted into the box
-    if (m_rules.click == InputRules::Click::SelectsText) {
+    if (m_rules.click != InputRules::Click::EmptiesBox) {
         selectAll();
         m_selectOnRelease = event->reason() == Qt::MouseFocusReason;
     }

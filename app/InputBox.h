@@ -18,8 +18,9 @@ using LeaveRule = std::function<std::optional<Message>(InputBox& box, bool edite
 struct InputRules {
     enum class Keys { Digits, Decimal, Date, FileText, QuotedText };
     enum class Click {
-        EmptiesBox,  ///< the common pattern: a click empties, the first key replaces
-        SelectsText, ///< the focus selects the text, so that a mere click loses nothing
+        EmptiesBox,          ///< the common pattern: a click empties, the first key replaces
+        SelectsText,         ///< the focus selects the text, so that a mere click loses nothing
+        SelectsTextEachTime, ///< every click does, too
     };
     Keys keys = Keys::Digits;
     Click click = Click::EmptiesBox;

@@ -2,6 +2,7 @@
 
 #include "app/AppSettings.h"
 #include "app/DrawDatabase.h"
+#include "app/HcdList.h"
 #include "app/InvestmentStatement.h"
 #include "app/RandomSource.h"
 #include "app/SetTable.h"
@@ -80,6 +81,11 @@ struct LGLOBAL {
     CandidateList CandidateNumbers;
     /// One for the whole run; tests put in their own. Never empty.
     std::shared_ptr<RandomSource> random = std::make_shared<RandomGenerator>();
+
+    // Hot, cold and due numbers
+    qint16 gameSets = 0;               ///< sets to make of them, 0..10
+    HcdList graphMode = HcdList::None; ///< the list that is ranked and drawn next
+    qint16 hcdPicksMade = 0;           ///< 1 when the form of these numbers has made sets
 
     // The editor and its record dialog
     EditMode editMode = EditMode::Normal;

@@ -29,7 +29,7 @@ void PrintOnRequest(LGLOBAL& shared, Prompts& prompts, const QString& name, cons
 
 PrintedDocument ChartDocument(const BarChart& chart)
 {
-    return {.name = chart.title, .pages = {}, .charts = {chart}};
+    return {.name = DocumentName(chart.title), .pages = {}, .charts = {chart}};
 }
 
 void PrintChartOnRequest(LGLOBAL& shared, Prompts& prompts, const BarChart& chart)

@@ -37,6 +37,9 @@ struct PrintedDocument {
     bool operator==(const PrintedDocument&) const = default;
 };
 
+/// The name as every queue and window takes it: one line, cut after a hundred characters.
+[[nodiscard]] QString DocumentName(const QString& name);
+
 /// How many pages a document has, charts included.
 [[nodiscard]] int PageCount(const PrintedDocument& document);
 

@@ -15,6 +15,7 @@
 #include "database/LDbase.h"
 #include "database/LGraph.h"
 #include "database/StatisticsChart.h"
+#include "hotcold/LHotCold.h"
 #include "invest/InInvNum.h"
 #include "invest/LInvTrack.h"
 #include "picks/LCheckWin.h"
@@ -166,13 +167,16 @@ int TakeTour(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, const Comm
         .stops = {{FormName::LotoMenu, u"LotoMenu"_s, {}},
                   {FormName::LDbase, u"LDbase"_s, {}},
                   {FormName::LDbase, u"LDbase-help"_s, u"DHelp"_s},
+                  {FormName::Lottery, u"Lottery"_s, {}},
+                  {FormName::Lottery, u"Lottery-sets"_s, u"CalcAllNum"_s},
+                  {FormName::Lottery, u"Lottery-help"_s, u"PHelp"_s},
+                  {FormName::LHotCold, u"LHotCold"_s, {}},
+                  {FormName::LHotCold, u"LHotCold-sets"_s, u"CalcHCD"_s},
+                  {FormName::LHotCold, u"LHotCold-help"_s, u"HelpHCD"_s},
                   {FormName::LGraph, u"LGraph"_s, {}},
                   {FormName::LGraph, u"LGraph-sorted"_s, u"ChngView"_s},
                   {FormName::LGraph, u"LGraph-since"_s, u"GWhichCnt"_s},
                   {FormName::LGraph, u"LGraph-3d"_s, u"TwoDBut"_s},
-                  {FormName::Lottery, u"Lottery"_s, {}},
-                  {FormName::Lottery, u"Lottery-sets"_s, u"CalcAllNum"_s},
-                  {FormName::Lottery, u"Lottery-help"_s, u"PHelp"_s},
                   {FormName::LCheckWin, u"LCheckWin"_s, {}},
                   {FormName::LCheckWin, u"LCheckWin-results"_s, u"CCalc"_s, typeNumbers},
                   {FormName::LCheckWin, u"LCheckWin-help"_s, u"CHelp"_s},
@@ -217,8 +221,8 @@ int main(int argc, char* argv[])
     window.AddForm(FormName::LDbase, [&](FormSwitcher& switcher, QWidget* parent) {
         return new LDbase(shared, prompts, switcher, parent);
     });
-    window.AddForm(FormName::LGraph, [&](FormSwitcher& switcher, QWidget* parent) {
-        return new LGraph(shared, prompts, switcher, parent);
+    window.AddForm(FormName::LHotCold, [&](FormSwitcher& switcher, QWidget* parent) {
+        return new LHotCold(shared, prompts, switcher, parent);
     });
     window.AddForm(FormName::LCheckWin, [&](FormSwitcher& switcher, QWidget* parent) {
         return new LCheckWin(shared, prompts, switcher, parent);
@@ -228,6 +232,9 @@ int main(int argc, char* argv[])
     });
     window.AddForm(FormName::Lottery, [&](FormSwitcher& switcher, QWidget* parent) {
         return new Lottery(shared, prompts, switcher, parent);
+    });
+    window.AddForm(FormName::LGraph, [&](FormSwitcher& switcher, QWidget* parent) {
+        return new LGraph(shared, prompts, switcher, parent);
     });
     window.AddDialog(FormName::ChangeFnt, [&](FormSwitcher& switcher, QWidget* mainWindow) {
         ChangeFnt(shared, prompts, switcher, mainWindow).exec();

@@ -472,9 +472,15 @@ void LDbase::SwitchCount()
 
 void LDbase::ShowHelp(bool opens)
 {
+    if (m_ui->HelpBoxD->hasFocus()) {
+        m_ui->DHelp->setFocus(Qt::OtherFocusReason);
+    }
     m_ui->HelpBoxD->setVisible(opens);
     m_ui->DGrid1->setVisible(!opens);
     m_ui->DHelp->setText(opens ? u"Close &Help"_s : u"Quick &Help"_s);
+    if (opens) {
+        m_ui->HelpBoxD->setFocus(Qt::OtherFocusReason); // so that the keys scroll it
+    }
 }
 
 void LDbase::CorrectRecord()

@@ -24,32 +24,49 @@ NumberCount& At(NumberTable& table, int row)
     return table[static_cast<std::size_t>(row)];
 }
 
+/// Calls @p act with the row and the number for each place of the records that holds a number 1..highest.
+template <typename Act>
+void ForEachNumber(const DrawDatabase& database, int firstRecord, const Act& act)
+{
+    const LotteryShape shape = database.Shape();
+    const auto picks = static_cast<std::size_t>(shape.picks);
+    for (int row = std::max(firstRecord, 1); row <= database.count; ++row) {
+        const DrawRecord& record = database.records[static_cast<std::size_t>(row)];
+        for (std::size_t pick = 0; pick < picks; ++pick) {
+            if (const int number = NumberIn(record.drawn[pick], shape.highest); number != 0) {
+                act(row, number);
+            }
+        }
+    }
+}
+
 } // namespace
+
+NumberTable CountTimesDrawn(const DrawDatabase& database, int firstRecord)
+{
+    NumberTable table{};
+    ForEachNumber(database, firstRecord, [&](int /*row*/, int number) {
+        // A number that stands twice in one record counts twice.
+        NumberCount& entry = At(table, number);
+        entry.label = static_cast<qint16>(number);
+        entry.value = static_cast<qint16>(entry.value + 1);
+    });
+    return table;
+}
 
 NumberTable CountNumbers(const DrawDatabase& database, CountMode mode)
 {
-    NumberTable table{};
-    const LotteryShape shape = database.Shape();
-    const auto picks = static_cast<std::size_t>(shape.picks);
-    for (int row = 1; row <= database.count; ++row) {
-        const DrawRecord& record = database.records[static_cast<std::size_t>(row)];
-        for (std::size_t pick = 0; pick < picks; ++pick) {
-            const int number = NumberIn(record.drawn[pick], shape.highest);
-            if (number == 0) {
-                continue;
-            }
-            NumberCount& entry = At(table, number);
-            entry.label = static_cast<qint16>(number);
-            // A number that stands twice in one record counts twice. Of the draws, the last one counts.
-            entry.value = static_cast<qint16>(mode == CountMode::TimesDrawn ? entry.value + 1
-                                                                            : database.count + 1 - row);
-        }
+    if (mode == CountMode::TimesDrawn) {
+        return CountTimesDrawn(database, 1);
     }
-    if (mode == CountMode::SinceLastDrawn) {
-        for (int number = 1; number <= shape.highest; ++number) {
-            NumberCount& entry = At(table, number);
-            entry.value = static_cast<qint16>(entry.value == 0 ? database.count : entry.value - 1);
-        }
+    NumberTable table{};
+    ForEachNumber(database, 1, [&](int row, int number) {
+        // Of the draws, the last one counts.
+        At(table, number) = {static_cast<qint16>(number), static_cast<qint16>(database.count + 1 - row)};
+    });
+    for (int number = 1; number <= database.Shape().highest; ++number) {
+        NumberCount& entry = At(table, number);
+        entry.value = static_cast<qint16>(entry.value == 0 ? database.count : entry.value - 1);
     }
     return table;
 }

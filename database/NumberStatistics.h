@@ -29,6 +29,11 @@ inline constexpr qint16 kNumberOrder = 10;
 /// Counts every number 1..highest over all records of the database; row n is number n.
 [[nodiscard]] NumberTable CountNumbers(const DrawDatabase& database, CountMode mode);
 
+/// Counts in how many places of the records from @p firstRecord on each number 1..highest stands.
+///
+/// @param firstRecord  1 for all records; higher than the number of records for none
+[[nodiscard]] NumberTable CountTimesDrawn(const DrawDatabase& database, int firstRecord);
+
 /// The values of @p unsorted, rows 1..highest, highest value first; among equal values the lower number
 /// normally comes first (see the five passes inside). With sortMode kNumberOrder the rows stay in number
 /// order.

@@ -9,13 +9,7 @@
 #include "picks/PickTexts.h"
 #include "picks/PrintSets.h"
 #include "picks/SelectoriumHelp.h"
-#include "picks/SetsDelegate.h"
 #include "ui_Lottery.h"
-
-#include <QApplication>
-#include <QHeaderView>
-#include <QKeyEvent>
-#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -43,14 +37,6 @@ QString NumberText(double value)
     return Format(value, u"##");
 }
 
-/// The width of the grid for so many picks, in pixels.
-int GridWidth(int picks, int dotsPerInch)
-{
-    constexpr int kColumn = 575;
-    constexpr int kFrame = 10;
-    return TwipsToPixels((picks + 1) * kColumn + kFrame, dotsPerInch);
-}
-
 /// The font with blanks as narrow as it takes to make the line fit the width.
 QFont FittedByBlanks(QFont font, const QString& line, int width)
 {
@@ -63,33 +49,11 @@ QFont FittedByBlanks(QFont font, const QString& line, int width)
     return font;
 }
 
-/// True for what a user does to a window; painting, timers and moves of the window go on.
-bool IsInput(QEvent::Type type)
-{
-    switch (type) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::Wheel:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::Shortcut:
-    case QEvent::InputMethod:
-    case QEvent::ContextMenu:
-    case QEvent::TouchBegin:
-    case QEvent::TouchEnd:
-    case QEvent::TabletPress:
-    case QEvent::TabletRelease:
-        return true;
-    default:
-        return false;
-    }
-}
-
 } // namespace
 
 Lottery::Lottery(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QWidget* parent)
-    : WorkingForm(shared, prompts, switcher, parent), m_ui(std::make_unique<Ui::Lottery>())
+    : WorkingForm(shared, prompts, switcher, parent), m_ui(std::make_unique<Ui::Lottery>()),
+      m_pause(*this, prompts, [this] { m_ui->BallRow->Finish(); })
 {
     m_ui->setupUi(this);
     m_ui->PTextBox->setPlainText(SelectoriumHelpText());
@@ -100,22 +64,13 @@ Lottery::Lottery(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QWid
     Events().WatchInputBoxes();
 }
 
-Lottery::~Lottery()
-{
-    if (m_ui->BallRow->IsRunning()) {
-        Asking().SetBusyPointer(false);
-    }
-}
+Lottery::~Lottery() = default;
 
 void Lottery::SetUpGrid()
 {
-    m_ui->PGrid->setModel(&m_sets);
-    m_ui->PGrid->setItemDelegate(new SetsDelegate(m_ui->PGrid));
-    m_ui->PGrid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    m_ui->PGrid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     // The room beside the grid is kept for ten picks, so that nothing jumps when their number changes.
     for (QWidget* area : {m_ui->GridArea, static_cast<QWidget*>(m_ui->PTextBox)}) {
-        area->setMinimumWidth(GridWidth(kMostPicks, logicalDpiX()));
+        area->setMinimumWidth(m_ui->PGrid->WidthFor(kMostPicks));
     }
 }
 
@@ -135,7 +90,8 @@ void Lottery::SetUpLabels()
     constexpr int kLines = 3;
     const int width = TwipsToPixels(kWidth, logicalDpiX());
     m_ui->FromNums->setMinimumSize(width, kLines * line);
-    const int indent = TwipsToPixels(kLeft, logicalDpiX()) - m_ui->from->contentsMargins().left();
+    const int margin = m_ui->Frame3->contentsMargins().left() + m_ui->from->contentsMargins().left();
+    const int indent = TwipsToPixels(kLeft, logicalDpiX()) - margin;
     m_ui->FromNumsIndent->changeSize(indent, 0, QSizePolicy::Fixed);
 }
 
@@ -144,7 +100,10 @@ void Lottery::SetUpInputs()
     const auto follow = [this](InputBox* box, QWidget* next, auto range) {
         InputRules rules;
         rules.next = [next] { return next; };
-        rules.leave = [this, range](InputBox& left, bool edited) {
+        rules.leave = [this, range](InputBox& left, bool edited) -> std::optional<Message> {
+            if (m_ui->BallRow->IsRunning()) { // a screen reader moves the focus without any event
+                return std::nullopt;          // a calculation checks the boxes anyway
+            }
             return LeaveEntry(left, edited, range());
         };
         box->Follow(Shared(), rules);
@@ -202,7 +161,7 @@ std::optional<Message> Lottery::LeaveEntry(InputBox& box, bool edited, const Ent
     if (&box == m_ui->InColNum) {
         m_picks = std::min(int(Val(box.text())), kMostPicks);
         if (!HoldsOnePick()) {
-            m_sets.SetRed(false);
+            m_ui->PGrid->Sets().SetRed(false);
         }
         ShapeGrid(kGridRows);
     }
@@ -251,11 +210,11 @@ void Lottery::ConnectCommands()
     OnCommand(m_ui->PPrinter, &Lottery::Print);
     OnCommand(m_ui->ShowHCD, &Lottery::ShowHotColdDue);
     OnCommand(m_ui->PExit, &Lottery::Exit);
-    Events().OnClick(m_ui->PHelp, [this] { ShowHelp(m_ui->PTextBox->isHidden()); });
-    Events().OnClick(m_ui->Option1, [this] { ChooseFullRange(); });
-    Events().OnClick(m_ui->Option2, [this] { ChooseSortedPositions(); });
-    Events().OnClick(m_ui->PWhichCnt, [this] { ChooseCount(); });
-    Events().OnClick(m_ui->ChkDBPicks, [this] { m_allowFewerPicks = m_ui->ChkDBPicks->isChecked(); });
+    OnCommand(m_ui->PHelp, &Lottery::SwitchHelp);
+    OnCommand(m_ui->Option1, &Lottery::ChooseFullRange);
+    OnCommand(m_ui->Option2, &Lottery::ChooseSortedPositions);
+    OnCommand(m_ui->PWhichCnt, &Lottery::ChooseCount);
+    OnCommand(m_ui->ChkDBPicks, &Lottery::ChooseFewerPicks);
     connect(m_ui->BallRow, &RollingBalls::WordChanged, m_ui->Picture7, &QLabel::setText);
     connect(m_ui->BallRow, &RollingBalls::Finished, this, &Lottery::ShowSets);
 }
@@ -263,7 +222,9 @@ void Lottery::ConnectCommands()
 void Lottery::OnCommand(QAbstractButton* button, void (Lottery::*command)())
 {
     Events().OnClick(button, [this, command] {
-        if (!m_ui->BallRow->IsRunning()) { // a screen reader presses buttons without any event
+        if (m_ui->BallRow->IsRunning()) { // a screen reader presses buttons without any event
+            ShowChoices();
+        } else {
             (this->*command)();
         }
     });
@@ -288,7 +249,7 @@ void Lottery::Load()
 
     m_pickedFrom.clear();
     m_fromNumbers.clear();
-    m_sets.SetRed(false);
+    m_ui->PGrid->Sets().SetRed(false);
     ShapeGrid(kGridRows);
     ClearDisplay();
     m_ui->PickFrom->setText(u"Picked from numbers"_s);
@@ -322,10 +283,7 @@ void Lottery::ShowDatabase()
 
 void Lottery::ShapeGrid(int rows)
 {
-    m_sets.SetUp(m_picks, rows);
-    m_ui->PGrid->setFixedWidth(GridWidth(std::clamp(m_picks, 1, kMostPicks), logicalDpiX()));
-    m_ui->PGrid->scrollToTop();
-    FitRows();
+    m_ui->PGrid->SetUp(m_picks, rows);
 }
 
 void Lottery::MakeGrid2()
@@ -333,27 +291,9 @@ void Lottery::MakeGrid2()
     ShapeGrid(kMostSets);
 }
 
-void Lottery::FitRows()
-{
-    // Ten sets and their heading fill the grid; larger letters than its own would only be further apart.
-    QTableView* grid = m_ui->PGrid;
-    const int lowest = fontMetrics().height() + 4;
-    const int room = (grid->height() - 2 * grid->frameWidth()) / (kGridRows + 1);
-    const int row = std::clamp(room, lowest, 2 * lowest);
-    grid->horizontalHeader()->setFixedHeight(row);
-    grid->verticalHeader()->setDefaultSectionSize(row);
-    grid->setMinimumHeight((kGridRows + 1) * lowest + 2 * grid->frameWidth());
-}
-
-void Lottery::resizeEvent(QResizeEvent* event)
-{
-    WorkingForm::resizeEvent(event);
-    FitRows();
-}
-
 void Lottery::ClearDisplay()
 {
-    m_sets.Clear();
+    m_ui->PGrid->Sets().Clear();
     m_ui->PickFrom->setText(PickedFromNumbers());
     m_ui->FromNums->clear();
 }
@@ -387,6 +327,19 @@ void Lottery::ChooseCount()
     ComputeNumberStats(Shared());
 }
 
+void Lottery::ChooseFewerPicks()
+{
+    m_allowFewerPicks = m_ui->ChkDBPicks->isChecked();
+}
+
+void Lottery::ShowChoices()
+{
+    QAbstractButton* option = m_pickMode == PickMode::SortedPositions ? m_ui->Option2 : m_ui->Option1;
+    option->setChecked(true);
+    m_ui->PWhichCnt->setChecked(Shared().WhichCnt == CountMode::TimesDrawn);
+    m_ui->ChkDBPicks->setChecked(m_allowFewerPicks);
+}
+
 void Lottery::ShowCount()
 {
     m_ui->PWhichCnt->setText(Shared().WhichCnt == CountMode::TimesDrawn
@@ -394,11 +347,22 @@ void Lottery::ShowCount()
                                  : u" Database: No. draws since last drawn"_s);
 }
 
+void Lottery::SwitchHelp()
+{
+    ShowHelp(m_ui->PTextBox->isHidden());
+}
+
 void Lottery::ShowHelp(bool opens)
 {
+    if (m_ui->PTextBox->hasFocus()) {
+        m_ui->PHelp->setFocus(Qt::OtherFocusReason);
+    }
     m_ui->PTextBox->setVisible(opens);
     m_ui->GridArea->setVisible(!opens);
     m_ui->PHelp->setText(opens ? u"Close &Help"_s : u"Quick &Help"_s);
+    if (opens) {
+        m_ui->PTextBox->setFocus(Qt::OtherFocusReason); // so that the keys scroll it
+    }
 }
 
 void Lottery::Calculate()
@@ -408,7 +372,7 @@ void Lottery::Calculate()
     m_pickedFrom.clear();
     m_fromNumbers.clear();
     ClearDisplay();
-    m_sets.SetRed(HoldsOnePick()); // as for a bonus ball
+    m_ui->PGrid->Sets().SetRed(HoldsOnePick()); // as for a bonus ball
 
     const PickLimits limits{.mode = m_pickMode,
                             .database = Shared().database.Shape(),
@@ -429,10 +393,9 @@ void Lottery::Calculate()
 void Lottery::PickSets(const PickEntries& entries)
 {
     m_picks = int(entries.picks);
+    m_calculatedPicks = m_picks;
     m_setCount = int(entries.sets);
-    if (!HoldsOnePick()) {
-        m_sets.SetRed(false);
-    }
+    m_ui->PGrid->Sets().SetRed(HoldsOnePick()); // the database may have changed the picks
     ShapeGrid(kGridRows);
     if (!ListCandidates(entries)) {
         ChooseFullRange();
@@ -474,7 +437,7 @@ bool Lottery::ListCandidates(const PickEntries& entries)
 
 void Lottery::SelectAll()
 {
-    m_sets.SetRed(false);
+    m_ui->PGrid->Sets().SetRed(false);
     m_fromNumbers.clear();
     m_pickedFrom = PickedBySelectAll();
     ChooseFullRange();
@@ -488,6 +451,7 @@ void Lottery::SelectAll()
     }
     const int highest = int(checked.entries.highest);
     m_picks = int(checked.entries.picks);
+    m_calculatedPicks = m_picks;
     Shared().CandidateNumbers = FullRange(highest);
     ClearDisplay();
     m_setCount = SetsForAllNumbers(highest, m_picks);
@@ -525,48 +489,19 @@ void Lottery::StartColor()
 
 void Lottery::BallsDisplay()
 {
-    Asking().SetBusyPointer(true);
-    qApp->installEventFilter(this);
+    m_pause.Begin();
     m_ui->BallRow->Run();
-}
-
-bool Lottery::eventFilter(QObject* watched, QEvent* event)
-{
-    // Both the window's own object, which gets a click before it moves the focus, and the widgets, which get
-    // their access keys without it. Other windows, a question for one, take input.
-    const auto* widget = qobject_cast<QWidget*>(watched);
-    if (watched != window()->windowHandle() && (widget == nullptr || widget->window() != window())) {
-        return WorkingForm::eventFilter(watched, event);
-    }
-    if (event->type() == QEvent::Close) {
-        m_ui->BallRow->Finish(); // what is asked before the program ends is asked over the sets
-        return false;
-    }
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-        m_ui->BallRow->Finish();
-        return true;
-    }
-    return IsInput(event->type());
-}
-
-void Lottery::hideEvent(QHideEvent* event)
-{
-    WorkingForm::hideEvent(event);
-    if (!event->spontaneous()) {
-        m_ui->BallRow->Finish();
-    }
 }
 
 void Lottery::ShowSets()
 {
-    m_sets.Fill(Shared().PickTable, m_setCount);
+    m_ui->PGrid->Sets().Fill(Shared().PickTable, m_setCount);
     EndCalculation();
 }
 
 void Lottery::EndCalculation()
 {
-    qApp->removeEventFilter(this);
-    Asking().SetBusyPointer(false);
+    m_pause.End();
     m_ui->Picture7->clear();
     ShowHelp(false);
 }
@@ -584,7 +519,8 @@ void Lottery::Print()
         return;
     }
     PrintOnRequest(Shared(), Asking(), u"Selectorium"_s, [this](Printout& printout) {
-        PrintSets(printout, m_pickedFrom, Shared().CandidateNumbers, Shared().PickTable, m_picks, m_setCount);
+        PrintSets(printout, m_pickedFrom, Shared().CandidateNumbers, Shared().PickTable, m_calculatedPicks,
+                  m_setCount);
     });
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "app/InputPause.h"
 #include "app/WorkingForm.h"
 #include "picks/PickEntries.h"
-#include "picks/SetsModel.h"
 
 #include <memory>
 
@@ -30,11 +30,6 @@ public:
     /// the main window takes no input but Escape, which ends the run.
     void BallsDisplay();
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-
 private:
     /// What one of the entry boxes is checked against when the focus leaves it.
     struct EntryRange {
@@ -58,12 +53,15 @@ private:
 
     void ShowDatabase();
     void ShapeGrid(int rows);
-    void FitRows();
     void ClearDisplay();
     void ChooseFullRange();
     void ChooseSortedPositions();
     void ChooseCount();
+    void ChooseFewerPicks();
+    /// Lets the option buttons and check boxes show what is chosen, after a press that was refused.
+    void ShowChoices();
     void ShowCount();
+    void SwitchHelp();
     void ShowHelp(bool opens);
 
     void Calculate();
@@ -79,11 +77,12 @@ private:
     void Exit();
 
     std::unique_ptr<Ui::Lottery> m_ui;
-    SetsModel m_sets;
+    InputPause m_pause; ///< while the balls roll
     PickMode m_pickMode = PickMode::None;
     bool m_allowFewerPicks = false;
-    int m_picks = 0;       ///< numbers of a set, as last calculated or typed
-    int m_setCount = 0;    ///< sets of the last calculation
-    QString m_pickedFrom;  ///< heading of the last calculation
-    QString m_fromNumbers; ///< what the last calculation picked from
+    int m_picks = 0;           ///< numbers of a set, as last calculated or typed
+    int m_calculatedPicks = 0; ///< numbers of a set of the last calculation, which is what is printed
+    int m_setCount = 0;        ///< sets of the last calculation
+    QString m_pickedFrom;      ///< heading of the last calculation
+    QString m_fromNumbers;     ///< what the last calculation picked from
 };

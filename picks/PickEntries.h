@@ -39,8 +39,9 @@ struct CheckedEntries {
 
 /// Checks the entries for Calculate.
 ///
-/// The span from Left to Right is checked in the full range too, on whatever the disabled boxes hold: so it
-/// has always been, and the reset of Right that follows shows the user what to do.
+/// The span from Left to Right is checked in the full range too, on whatever the disabled boxes hold: it is
+/// required that positions which leave too little room for a set are noticed whatever the mode. When moving
+/// Right to the highest number does not help, Left has to be lowered, for which sorted positions are chosen.
 [[nodiscard]] CheckedEntries CheckForCalculate(PickEntries entries, const PickLimits& limits);
 
 /// Checks the entries for Select All, which looks at picks and highest alone.

@@ -1,7 +1,8 @@
 #include "picks/RollingBalls.h"
 
+#include "app/Animations.h"
+
 #include <QHBoxLayout>
-#include <QStyle>
 
 #include <algorithm>
 #include <chrono>
@@ -12,7 +13,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kStepLength = 100;    ///< milliseconds
+/// Pixels of a side; the ball itself is 40 across. Each picture of a ball costs by its area, so in a large
+/// window the run would take many times the processor's time that it takes in a small one.
+constexpr int kLargestBall = 50;
+
 constexpr double kFadeOfStep = 0.4; ///< the part of a step in which one colour becomes the next
 constexpr int kMomentLength = 16;   ///< milliseconds from one picture to the next while colours change
 
@@ -24,7 +28,7 @@ QColor Between(const BallColor& from, const BallColor& to, double part)
 
 } // namespace
 
-RollingBalls::RollingBalls(QWidget* parent) : QWidget(parent), m_stepLength(kStepLength)
+RollingBalls::RollingBalls(QWidget* parent) : QWidget(parent)
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -32,17 +36,13 @@ RollingBalls::RollingBalls(QWidget* parent) : QWidget(parent), m_stepLength(kSte
     for (std::size_t i = 0; i < m_balls.size(); ++i) {
         m_balls.at(i) = new Ball(this);
         m_balls.at(i)->setObjectName(u"Balls%1"_s.arg(i));
+        m_balls.at(i)->setMaximumSize(kLargestBall, kLargestBall);
         row->addWidget(m_balls.at(i));
     }
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &RollingBalls::ShowMoment);
     StartColor();
-}
-
-bool RollingBalls::AnimationsAreWanted() const
-{
-    return m_stepLength > 0 && style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
 }
 
 void RollingBalls::StartColor()
@@ -57,7 +57,7 @@ void RollingBalls::Run()
     }
     m_running = true;
     m_clock.start();
-    if (AnimationsAreWanted()) {
+    if (m_stepLength > 0 && AnimationsAreWanted(*this)) {
         ShowMoment();
     } else {
         Finish();

@@ -31,8 +31,12 @@ public:
 
     [[nodiscard]] bool IsRunning() const { return m_running; }
 
-    /// How long a step of the run takes, in milliseconds; a tenth of a second if not set. Tests take less.
+    /// How long a step of the run takes if it is not set, in milliseconds.
+    static constexpr int kStepLength = 100;
+
+    /// Sets how long a step takes, in milliseconds. Tests take less.
     void SetStepLength(int milliseconds) { m_stepLength = milliseconds; }
+    [[nodiscard]] int StepLength() const { return m_stepLength; }
 
 Q_SIGNALS:
     /// The word to show beside the balls has changed.
@@ -41,7 +45,6 @@ Q_SIGNALS:
     void Finished();
 
 private:
-    [[nodiscard]] bool AnimationsAreWanted() const;
     void ShowMoment();
     void ShowColors(const BallColors& before, const BallColors& now, double faded);
 
@@ -49,6 +52,6 @@ private:
     QTimer m_timer;
     QElapsedTimer m_clock;
     QString m_word;
-    int m_stepLength;
+    int m_stepLength = kStepLength;
     bool m_running = false;
 };

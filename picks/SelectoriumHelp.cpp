@@ -18,6 +18,8 @@ QString SelectoriumHelpText()
         u"(o) Sorted position: picks from a part of the numbers as counted and sorted from the database."_s,
         u"Numbers are counted and sorted from highest count (Left) to lowest (Right)."_s,
         u"The difference between Left to Right must be greater than the number of picks."_s,
+        u"This is checked for the full range too. If the message comes again, choose sorted positions and "
+        u"lower Left."_s,
         u"[/] Database: Times numbers were drawn."_s,
         u"Any numbers that have not been drawn yet = lowest number of times drawn."_s,
         u"[ ] Database: No. draws since last drawn."_s,

@@ -9,8 +9,8 @@ FormBench::FormBench()
     m_window.AddForm(FormName::LDbase, [this](FormSwitcher& switcher, QWidget* parent) {
         return new LDbase(m_shared, m_prompts, switcher, parent);
     });
-    m_window.AddForm(FormName::LGraph, [this](FormSwitcher& switcher, QWidget* parent) {
-        return new LGraph(m_shared, m_prompts, switcher, parent);
+    m_window.AddForm(FormName::LHotCold, [this](FormSwitcher& switcher, QWidget* parent) {
+        return new LHotCold(m_shared, m_prompts, switcher, parent);
     });
     m_window.AddForm(FormName::LCheckWin, [this](FormSwitcher& switcher, QWidget* parent) {
         return new LCheckWin(m_shared, m_prompts, switcher, parent);
@@ -20,6 +20,9 @@ FormBench::FormBench()
     });
     m_window.AddForm(FormName::Lottery, [this](FormSwitcher& switcher, QWidget* parent) {
         return new Lottery(m_shared, m_prompts, switcher, parent);
+    });
+    m_window.AddForm(FormName::LGraph, [this](FormSwitcher& switcher, QWidget* parent) {
+        return new LGraph(m_shared, m_prompts, switcher, parent);
     });
     m_window.AddDialog(FormName::ChangeFnt, [this](FormSwitcher& switcher, QWidget* mainWindow) {
         ChangeFnt(m_shared, m_prompts, switcher, mainWindow).exec();

@@ -5,6 +5,7 @@
 #include "database/Extract.h"
 #include "database/LDbase.h"
 #include "database/LGraph.h"
+#include "hotcold/LHotCold.h"
 #include "invest/LInvTrack.h"
 #include "picks/LCheckWin.h"
 #include "picks/Lottery.h"

@@ -374,6 +374,18 @@ TEST_F(InputBoxes, ABoxThatSelectsKeepsItsTextWhenTheCursorWasMovedFirst)
     EXPECT_EQ(m_box.text(), u"Lotto!"_s);
 }
 
+TEST_F(InputBoxes, ABoxMaySelectItsTextAtEveryClick)
+{
+    Follow({.click = InputRules::Click::SelectsTextEachTime});
+    m_box.setText(u"52"_s);
+    for (int click = 0; click < 3; ++click) {
+        QTest::mouseClick(&m_box, Qt::LeftButton);
+        EXPECT_EQ(m_box.selectedText(), u"52"_s);
+        EXPECT_EQ(m_shared.entryEdited, 0);
+        m_box.deselect();
+    }
+}
+
 TEST_F(InputBoxes, BoxesAreGreenWithBlackTextInAnyPalette)
 {
     EXPECT_EQ(m_box.palette().color(QPalette::Active, QPalette::Base).rgb(), qRgb(0x80, 0xFF, 0x80));

@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include <numeric>
 
@@ -668,6 +669,22 @@ TEST_F(Editor, TheQuickHelpOpensAndClosesWithItsLines)
     EXPECT_FALSE(help.isVisible());
     EXPECT_EQ(Find<QPushButton>(u"DHelp"_s).text(), u"Quick &Help"_s);
     EXPECT_TRUE(Find<QTableView>(u"DGrid1"_s).isVisible());
+}
+
+TEST_F(Editor, TheQuickHelpIsScrolledByTheKeysAsItSays)
+{
+    OpenEditor();
+    auto& help = Find<QPlainTextEdit>(u"HelpBoxD"_s);
+    Find<QPushButton>(u"DHelp"_s).setFocus();
+    QTest::keyClick(m_window.focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(FocusName(), u"HelpBoxD"_s);
+    Settle();
+    EXPECT_EQ(help.verticalScrollBar()->value(), 0);
+    QTest::keyClick(m_window.focusWidget(), Qt::Key_PageDown);
+    EXPECT_GT(help.verticalScrollBar()->value(), 0);
+    QTest::keyClick(&m_window, Qt::Key_H, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return help.isHidden(); }));
+    EXPECT_EQ(FocusName(), u"DHelp"_s);
 }
 
 TEST_F(Editor, OpensWithTheQuickHelpClosed)

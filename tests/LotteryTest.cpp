@@ -1,6 +1,7 @@
 #include "picks/Lottery.h"
 
 #include "app/TextPictures.h"
+#include "app/Twips.h"
 #include "picks/PickSets.h"
 #include "picks/RollingBalls.h"
 #include "picks/SelectoriumHelp.h"
@@ -9,6 +10,7 @@
 #include "tests/PrintedPages.h"
 
 #include <QAbstractItemModelTester>
+#include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QGroupBox>
@@ -237,6 +239,36 @@ TEST_F(Selectorium, EveryBoxAndGridCanBeSpokenOfByAScreenReader)
     EXPECT_FALSE(Grid().accessibleDescription().isEmpty());
     EXPECT_FALSE(Balls().accessibleName().isEmpty());
     EXPECT_FALSE(Find<QPlainTextEdit>(u"PTextBox"_s).accessibleName().isEmpty());
+}
+
+TEST_F(Selectorium, AScreenReaderReadsWhatTheLabelsShow)
+{
+    FillDatabase(12);
+    Open();
+    const auto spoken = [this](const QString& label) {
+        return QAccessible::queryAccessibleInterface(&Find<QLabel>(label))->text(QAccessible::Name);
+    };
+    EXPECT_TRUE(spoken(u"InfoLabel1"_s).contains(u"Test 6/49"_s));
+    Click(u"PCalc"_s);
+    EXPECT_EQ(spoken(u"FromNums"_s).trimmed(), u"1 to 49"_s);
+    EXPECT_EQ(spoken(u"PickFrom"_s).trimmed(), u"Picked from numbers"_s);
+    BeginSlowly();
+    EXPECT_EQ(spoken(u"Picture7"_s), u"Shuffling"_s);
+    Balls().Finish();
+    for (const QString& label : {u"InfoLabel1"_s, u"FromNums"_s, u"Picture7"_s}) {
+        auto* interface = QAccessible::queryAccessibleInterface(&Find<QLabel>(label));
+        EXPECT_FALSE(interface->text(QAccessible::Description).isEmpty()) << label.toStdString();
+    }
+}
+
+TEST_F(Selectorium, TheNumbersPickedFromStandAtTheirPlaceInTheFrame)
+{
+    Open();
+    const auto& label = Find<QLabel>(u"FromNums"_s);
+    const int dots = m_window.logicalDpiX();
+    EXPECT_EQ(label.mapTo(&Find<QGroupBox>(u"Frame3"_s), QPoint()).x(), TwipsToPixels(855, dots));
+    EXPECT_EQ(label.minimumWidth(), TwipsToPixels(7755, dots));
+    EXPECT_GE(label.width(), TwipsToPixels(7755, dots));
 }
 
 TEST_F(Selectorium, TheTabKeyGoesThroughTheBoxesInReadingOrder)
@@ -609,6 +641,52 @@ TEST_F(Selectorium, ALotteryOfOneNumberIsCalculated)
     Put(u"InNumRows"_s, u"2"_s);
     Click(u"PCalc"_s);
     EXPECT_EQ(Row(1), (QStringList{u"2"_s, u" 1"_s}));
+}
+
+TEST_F(Selectorium, ADatabaseOfOneNumberAndOnePickIsCalculated)
+{
+    m_shared.database.columns = 3;
+    m_shared.database.highest = 1;
+    m_shared.database.Append(QDate(2000, 1, 1), {1});
+    Open();
+    EXPECT_EQ(Box(u"InEndNo"_s).text(), u" 1"_s); // a half goes up
+    for (const QString& option : {u"Option1"_s, u"Option2"_s}) {
+        Click(option);
+        Click(u"PCalc"_s);
+        EXPECT_EQ(Row(0), (QStringList{u"1"_s, u" 1"_s})) << option.toStdString();
+        EXPECT_TRUE(IsRed());
+    }
+    Click(u"CalcAllNum"_s);
+    EXPECT_EQ(Row(0), (QStringList{u"1"_s, u" 1"_s}));
+    EXPECT_EQ(Box(u"InNumRows"_s).text(), u" 2"_s);
+}
+
+TEST_F(Selectorium, PicksForcedToOneByTheDatabaseAreRedAtOnce)
+{
+    m_shared.database.columns = 3;
+    m_shared.database.highest = 49;
+    for (int number = 1; number <= 12; ++number) {
+        m_shared.database.Append(QDate(2000, 1, number), {number});
+    }
+    Open();
+    ChoosePositions(u"1"_s, u"25"_s);
+    Put(u"InColNum"_s, u"3"_s);
+    Click(u"PCalc"_s);
+    EXPECT_EQ(Box(u"InColNum"_s).text(), u"1"_s);
+    EXPECT_EQ(Row(0).size(), 2);
+    EXPECT_TRUE(IsRed());
+}
+
+TEST_F(Selectorium, PicksForcedFromOneToSixByTheDatabaseHaveTheColourOfTheWindow)
+{
+    FillDatabase(12);
+    Open();
+    ChoosePositions(u"1"_s, u"25"_s);
+    Put(u"InColNum"_s, u"1"_s);
+    Click(u"PCalc"_s);
+    EXPECT_EQ(Box(u"InColNum"_s).text(), u"6"_s);
+    EXPECT_FALSE(GridIsEmpty());
+    EXPECT_FALSE(Grid().model()->index(0, 1).data(Qt::ForegroundRole).isValid());
 }
 
 TEST_F(Selectorium, OnePickIsRedInBothPalettes)
@@ -1041,6 +1119,27 @@ TEST_F(Selectorium, WhatWasCalculatedIsPrintedAlsoWhenTheDisplayIsCleared)
     EXPECT_EQ(lines.size(), 9 + 9 + 1);
 }
 
+TEST_F(Selectorium, WhatIsTypedAfterACalculationDoesNotChangeWhatIsPrinted)
+{
+    Open();
+    Draw({1, 2, 3, 4, 5, 6}, 49);
+    Click(u"PCalc"_s);
+    for (const QString& picks : {u"3"_s, u"9"_s}) {
+        Enter(u"InColNum"_s, picks);
+        Enter(u"InHighNum"_s, u"20"_s);
+        Enter(u"InNumRows"_s, u"7"_s);
+        m_prompts.printed.clear();
+        m_prompts.answers = {true};
+        Click(u"PPrinter"_s);
+        ASSERT_EQ(m_prompts.printed.size(), 1U);
+        const QStringList lines = PageLines(m_prompts.printed.front(), 1);
+        ASSERT_EQ(lines.size(), 11);
+        EXPECT_EQ(lines.at(9), u"      1    2    3    4    5    6"_s);
+        EXPECT_EQ(lines.at(10).trimmed(), QString(30, u'_'));
+        EXPECT_EQ(lines.at(7).trimmed(), QString(30, u'_'));
+    }
+}
+
 TEST_F(Selectorium, HotColdAndDueDataNeedTenRecords)
 {
     Open();
@@ -1058,18 +1157,6 @@ TEST_F(Selectorium, HotColdAndDueDataNeedTenRecords)
 
 TEST_F(Selectorium, HotColdAndDueDataTakeTheFormsPlace)
 {
-    /// Stands for the form of hot, cold and due numbers.
-    class OtherForm : public WorkingForm
-    {
-    public:
-        using WorkingForm::WorkingForm;
-        void Load() override {}
-    };
-    m_window.AddForm(FormName::LHotCold, [this](FormSwitcher& switcher, QWidget* parent) {
-        auto* form = new OtherForm(m_shared, m_prompts, switcher, parent);
-        form->setObjectName(u"LHotCold"_s);
-        return form;
-    });
     FillDatabase(10);
     Open();
     Click(u"ShowHCD"_s);
@@ -1097,6 +1184,37 @@ TEST_F(Selectorium, QuickHelpOpensAndClosesAndACalculationClosesIt)
     }
 }
 
+TEST_F(Selectorium, QuickHelpIsScrolledByTheKeysAsItSays)
+{
+    Open();
+    auto& help = Find<QPlainTextEdit>(u"PTextBox"_s);
+    Find<QPushButton>(u"PHelp"_s).setFocus();
+    QTest::keyClick(m_window.focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(FocusName(), u"PTextBox"_s);
+    Settle();
+    EXPECT_EQ(help.verticalScrollBar()->value(), 0);
+    QTest::keyClick(m_window.focusWidget(), Qt::Key_PageDown);
+    EXPECT_GT(help.verticalScrollBar()->value(), 0);
+    QTest::keyClick(&m_window, Qt::Key_H, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return help.isHidden(); }));
+    EXPECT_EQ(FocusName(), u"PHelp"_s);
+}
+
+TEST_F(Selectorium, QuickHelpHandsTheFocusBackHoweverItIsClosed)
+{
+    Open();
+    Balls().SetStepLength(60000);
+    Click(u"PCalc"_s);
+    Balls().Finish();
+    Click(u"PHelp"_s);
+    EXPECT_EQ(FocusName(), u"PTextBox"_s);
+    Find<QPushButton>(u"PCalc"_s).click();
+    Find<QPlainTextEdit>(u"PTextBox"_s).setFocus(); // as assistive technology can
+    Balls().Finish();
+    EXPECT_TRUE(Find<QPlainTextEdit>(u"PTextBox"_s).isHidden());
+    EXPECT_EQ(FocusName(), u"PHelp"_s);
+}
+
 TEST_F(Selectorium, QuickHelpSaysWhatPlayersAsk)
 {
     const QString text = SelectoriumHelpText();
@@ -1110,6 +1228,8 @@ TEST_F(Selectorium, QuickHelpSaysWhatPlayersAsk)
           u"in "
           u"the number of entry forms necessary to hold them. This means that all winning numbers will be "
           u"covered. Limit is 20 Rows. Scroll to see all rows."_s,
+          u"This is checked for the full range too. If the message comes again, choose sorted positions and "
+          u"lower Left."_s,
           u"For draws ranging from 0 to ?, set the range from 1 to ? + 1 and use this last number as "
           u"substitute "
           u"for number 0."_s}) {
@@ -1169,7 +1289,7 @@ TEST_F(Selectorium, TheRunShufflesAndPicksBeforeTheSetsAreShown)
     Click(u"PCalc"_s);
     EXPECT_TRUE(Balls().IsRunning());
     ASSERT_TRUE(QTest::qWaitFor([this] { return !Balls().IsRunning(); }));
-    EXPECT_FALSE(words.isEmpty());
+    EXPECT_GE(words.size(), 2); // both words, at least once
     for (int i = 0; i < words.size(); ++i) {
         EXPECT_EQ(words.at(i), i % 2 == 0 ? u"Shuffling"_s : u"Picking"_s) << i;
     }
@@ -1177,6 +1297,26 @@ TEST_F(Selectorium, TheRunShufflesAndPicksBeforeTheSetsAreShown)
     EXPECT_EQ(TextOf(u"Picture7"_s), QString());
     EXPECT_FALSE(m_prompts.busy);
     EXPECT_EQ(Find<Ball>(u"Balls0"_s).Color(), QColor(Qt::red));
+}
+
+TEST_F(Selectorium, AStepTakesATenthOfASecondAndTheRunThirtySevenOfThem)
+{
+    const RollingBalls balls;
+    EXPECT_EQ(balls.StepLength(), 100);
+    EXPECT_EQ(balls.StepLength() * kBallSteps, 3700);
+    Start();
+    Click(u"PickForm"_s);
+    EXPECT_EQ(Balls().StepLength(), RollingBalls::kStepLength); // the form leaves it so
+}
+
+TEST_F(Selectorium, TheBallsDoNotGrowWithoutLimitInALargeWindow)
+{
+    Open();
+    m_window.resize(2400, 1500);
+    Settle();
+    for (int i = 0; i < 6; ++i) {
+        EXPECT_EQ(Find<Ball>(u"Balls%1"_s.arg(i)).size(), QSize(50, 50));
+    }
 }
 
 TEST_F(Selectorium, TheColoursRollToTheRight)
@@ -1255,6 +1395,89 @@ TEST_F(Selectorium, ACommandGivenWithoutAnEventIsRefusedTooWhileTheBallsRoll)
     EXPECT_EQ(m_shared.PickTable, sets);
     EXPECT_EQ(ShownForm(), u"Lottery"_s);
     Balls().Finish();
+}
+
+TEST_F(Selectorium, AChoiceGivenWithoutAnEventIsTakenBackWhileTheBallsRoll)
+{
+    FillDatabase(12);
+    Open();
+    BeginSlowly();
+    const QString heading = TextOf(u"PickFrom"_s);
+    const QString numbers = TextOf(u"FromNums"_s);
+    const NumberTable counts = m_shared.NumberStats;
+    for (const QString& button : {u"PWhichCnt"_s, u"ChkDBPicks"_s, u"Option2"_s, u"PHelp"_s}) {
+        Find<QAbstractButton>(button).click(); // as a screen reader does
+    }
+    EXPECT_TRUE(Balls().IsRunning());
+    EXPECT_TRUE(Checked(u"PWhichCnt"_s));
+    EXPECT_EQ(Find<QCheckBox>(u"PWhichCnt"_s).text(), u" Database: Times numbers were drawn"_s);
+    EXPECT_EQ(m_shared.WhichCnt, CountMode::TimesDrawn);
+    EXPECT_EQ(m_shared.NumberStats, counts);
+    EXPECT_FALSE(Checked(u"ChkDBPicks"_s));
+    EXPECT_TRUE(Checked(u"Option1"_s));
+    EXPECT_FALSE(Box(u"InStartNo"_s).isEnabled());
+    EXPECT_TRUE(Find<QPlainTextEdit>(u"PTextBox"_s).isHidden());
+    EXPECT_EQ(TextOf(u"PickFrom"_s), heading);
+    EXPECT_EQ(TextOf(u"FromNums"_s), numbers);
+    Balls().Finish();
+
+    ChoosePositions(u"1"_s, u"25"_s);
+    ClickBox(u"ChkDBPicks"_s);
+    BeginSlowly();
+    Find<QAbstractButton>(u"Option1"_s).click();
+    Find<QAbstractButton>(u"ChkDBPicks"_s).click();
+    EXPECT_TRUE(Checked(u"Option2"_s));
+    EXPECT_TRUE(Checked(u"ChkDBPicks"_s));
+    EXPECT_TRUE(Box(u"InStartNo"_s).isEnabled());
+    Balls().Finish();
+    EXPECT_FALSE(GridIsEmpty());
+}
+
+TEST_F(Selectorium, ATextPutIntoABoxWhileTheBallsRollChangesNothingOfWhatIsShown)
+{
+    Open();
+    BeginSlowly();
+    const QString heading = TextOf(u"PickFrom"_s);
+    const QString numbers = TextOf(u"FromNums"_s);
+    Box(u"InColNum"_s).setFocus();
+    Put(u"InColNum"_s, u"3"_s);
+    Box(u"InHighNum"_s).setFocus();
+    Put(u"InHighNum"_s, u"77"_s);
+    Box(u"InNumRows"_s).setFocus();
+    Settle();
+    EXPECT_TRUE(Balls().IsRunning());
+    EXPECT_EQ(TextOf(u"PickFrom"_s), heading);
+    EXPECT_EQ(TextOf(u"FromNums"_s), numbers);
+    Balls().Finish();
+    ASSERT_EQ(Row(0).size(), 7);
+    EXPECT_EQ(Row(0).at(6), RightJustify(QString::number(m_shared.PickTable.at(1).at(6)), 2));
+    EXPECT_EQ(TextOf(u"FromNums"_s), numbers);
+    Balls().SetStepLength(0);
+    Click(u"PCalc"_s); // the next calculation works with what was put there, within its limits
+    EXPECT_EQ(Row(0).size(), 4);
+    EXPECT_EQ(Box(u"InHighNum"_s).text(), u"60"_s);
+}
+
+TEST_F(Selectorium, ASecondClickOfADoubleClickOnCalculateIsNotASecondCalculation)
+{
+    Open();
+    Balls().SetStepLength(60000);
+    auto& calculate = Find<QPushButton>(u"PCalc"_s);
+    const QPoint place = calculate.mapTo(&m_window, calculate.rect().center());
+    QTest::mouseClick(m_window.windowHandle(), Qt::LeftButton, {}, place);
+    const SetTable sets = m_shared.PickTable;
+    EXPECT_NE(sets, SetTable{});
+    QTest::mouseDClick(m_window.windowHandle(), Qt::LeftButton, {}, place);
+    Settle();
+    EXPECT_TRUE(Balls().IsRunning());
+    EXPECT_EQ(m_shared.PickTable, sets);
+    EXPECT_EQ(m_prompts.busyChanges, (std::deque<bool>{true}));
+    EXPECT_FALSE(calculate.isDown());
+    Balls().Finish();
+    EXPECT_FALSE(GridIsEmpty());
+    Balls().SetStepLength(0);
+    ClickInWindow(calculate); // and the next click is taken
+    EXPECT_NE(m_shared.PickTable, sets);
 }
 
 TEST_F(Selectorium, TheWindowIsPaintedWhileTheBallsRoll)

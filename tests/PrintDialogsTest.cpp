@@ -261,7 +261,7 @@ TEST_F(PrintQuestion, AChartIsPrintedInTheInkOfTheSecondAnswer)
         QStringList asked;
         WhenModalOpens([&](QWidget* first) {
             asked << first->findChild<QLabel*>(u"Label1"_s)->text();
-            WhenModalOpensOver(first, [&](QWidget* second) {
+            WhenNextModalOpens([&](QWidget* second) {
                 asked << second->findChild<QLabel*>(u"Label1"_s)->text();
                 EXPECT_FALSE(second->findChild<QPushButton*>(u"PreviewButt"_s)->isVisible());
                 Press(second, color ? u"AllYes"_s : u"AllNo"_s);

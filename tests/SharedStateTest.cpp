@@ -95,6 +95,9 @@ TEST(SharedState, TheSingleValuesBeginIdle)
     EXPECT_EQ(shared.layoutSize, 6810);
     EXPECT_EQ(shared.linesPerPage, 53);
     EXPECT_EQ(shared.graphCaller, 0);
+    EXPECT_EQ(shared.gameSets, 0);
+    EXPECT_EQ(shared.graphMode, HcdList::None);
+    EXPECT_EQ(shared.hcdPicksMade, 0);
     EXPECT_EQ(shared.WhichCnt, CountMode::TimesDrawn);
     EXPECT_EQ(shared.investmentFileName, QString());
 }

@@ -1,4 +1,4 @@
-#include "picks/SetsDelegate.h"
+#include "app/SetsDelegate.h"
 
 #include <QApplication>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "picks/SetsModel.h"
+#include "app/SetsModel.h"
 
 #include "app/TextPictures.h"
 

@@ -1,0 +1,9 @@
+#include "app/Animations.h"
+
+#include <QStyle>
+#include <QWidget>
+
+bool AnimationsAreWanted(const QWidget& widget)
+{
+    return widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget) > 0;
+}
