@@ -124,8 +124,7 @@ TEST_F(TrackerWithDialogs, AFileIsSavedUnderTheNameTypedIntoTheDialogAndOpenedAg
     ClickAnd(u"IOpenFile"_s, [&](QWidget* dialog) {
         EXPECT_EQ(qobject_cast<QFileDialog*>(dialog)->nameFilters(),
                   QStringList{u"Investment Database (*.inv)"_s});
-        WhenModalOpensOver(
-            dialog,
+        WhenNextModalOpens(
             [](QWidget* question) {
                 QTest::mouseClick(question->findChild<QPushButton*>(u"AllNo"_s), Qt::LeftButton);
             },
@@ -139,8 +138,7 @@ TEST_F(TrackerWithDialogs, ANameWithoutItsEndingIsRefused)
 {
     Type(u"Tickets"_s);
     ClickAnd(u"ISaveFile"_s, [&](QWidget* dialog) {
-        WhenModalOpensOver(
-            dialog,
+        WhenNextModalOpens(
             [](QWidget* message) {
                 EXPECT_EQ(message->findChild<QPlainTextEdit*>(u"TextMsg"_s)->toPlainText(),
                           u"Bad filename, must be in the form MYFILE.INV"_s);
