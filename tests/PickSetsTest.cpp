@@ -311,7 +311,7 @@ double DeviationsOfNeighbours(const Tally& tally, int sets = kSets)
 
 TEST(PickSetsChance, NumbersPairsAndNeighbouringSetsAreThoseOfAFairDraw)
 {
-    for (const std::uint64_t seed : {1, 2, 3}) {
+    for (const std::uint64_t seed : {1U, 2U, 3U}) {
         RandomGenerator generator = Generator(seed);
         const Tally tally = TallySets(generator);
         EXPECT_LT(std::abs(DeviationsOfNumbers(tally)), kBound) << seed;
