@@ -2,6 +2,7 @@
 
 #include "app/Printing.h"
 #include "app/TextPictures.h"
+#include "app/ToolTips.h"
 #include "hotcold/HcdChart.h"
 #include "hotcold/HcdHelp.h"
 #include "hotcold/PrintHcdSets.h"
@@ -151,7 +152,7 @@ void LHotCold::Load()
     m_ui->Label6->setText(u" Select any combination for a total   of not more than "_s + Str(m_maxHcd) +
                           u" numbers."_s);
     m_ui->InfoLabel2->setText(u" File in Memory \n  "_s + shared.database.fileName + u"  "_s);
-    m_ui->InfoLabel2->setToolTip(shared.database.fileName.toHtmlEscaped());
+    SetLiteralToolTip(*m_ui->InfoLabel2, shared.database.fileName);
     m_ui->InNumPlays->setText(SetsText(shared.settings.entryForms));
     MakeHCDGrid();
 

@@ -15,7 +15,8 @@ void PrintCandidates(Printout& printout, const CandidateList& candidates)
     constexpr int kColumnStep = 3;
     for (int line = 0; line < kLines; ++line) {
         for (int i = 1; i <= kNumbersInLine; ++i) {
-            const qint16 number = candidates.numbers.at(static_cast<std::size_t>(line * kNumbersInLine + i));
+            const int entry = line * kNumbersInLine + i;
+            const qint16 number = candidates.numbers.at(static_cast<std::size_t>(entry));
             printout.PrintAt(kColumnStep * i, RightJustify(Format(number, u"##"), 2));
         }
         printout.EndLine();

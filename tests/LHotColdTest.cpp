@@ -8,6 +8,7 @@
 #include "tests/FixedSource.h"
 #include "tests/FormBench.h"
 #include "tests/PrintedPages.h"
+#include "tests/ToolTipText.h"
 
 #include <QAbstractItemModelTester>
 #include <QClipboard>
@@ -287,7 +288,7 @@ TEST_F(HotCold, ALongFileNameWidensNothing)
     m_shared.database.fileName = QString(200, u'W') + u".Lto"_s;
     Open();
     EXPECT_LE(Find<QWidget>(u"LHotCold"_s).minimumSizeHint().width(), 641);
-    EXPECT_EQ(Find<QLabel>(u"InfoLabel2"_s).toolTip(), m_shared.database.fileName);
+    EXPECT_EQ(TextOfToolTip(Find<QLabel>(u"InfoLabel2"_s).toolTip()), m_shared.database.fileName);
 }
 
 TEST_F(HotCold, EveryBoxGridAndGraphCanBeSpokenOfByAScreenReader)
