@@ -24,6 +24,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QIcon>
 #include <QProxyStyle>
 #include <QStandardPaths>
 #include <QTimer>
@@ -87,6 +88,32 @@ CommandLine ReadCommandLine(const QStringList& arguments)
     line.tourFolder = Absolute(parser.value(tour));
     return line;
 }
+
+void ShowIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128}) {
+        icon.addFile(u":/icons/quillaby-%1.png"_s.arg(size), {size, size});
+    }
+    QApplication::setWindowIcon(icon);
+}
+
+/// Gives a window its icon when its first picture stands, which need not wait until the icons are read.
+class IconAfterFirstPicture : public QObject
+{
+public:
+    explicit IconAfterFirstPicture(QWidget& window) : QObject(&window) { window.installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            watched->removeEventFilter(this);
+            QTimer::singleShot(0, this, ShowIcon);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
 
 std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContainer& window)
 {
@@ -206,6 +233,7 @@ int main(int argc, char* argv[])
     }
 
     const QApplication application(argc, argv);
+    QApplication::setDesktopFileName(QStringLiteral(QUILLABY_ID)); // so a desktop knows whose window it is
     const QString programFolder =
         ChooseProgramFolder({.executableFolder = QCoreApplication::applicationDirPath(),
                              .dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
@@ -243,6 +271,7 @@ int main(int argc, char* argv[])
         Extract(shared, prompts, switcher, mainWindow).exec();
     });
     window.Start();
+    new IconAfterFirstPicture(window); // the window's
     window.show();
     if (!line.tourFolder.isEmpty()) {
         return TakeTour(shared, prompts, window, line);
