@@ -61,11 +61,11 @@ CommandLine ReadCommandLine(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         u"Keeps the draws of a lottery, counts them and makes sets of numbers."_s);
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption help({u"h"_s, u"help"_s}, u"Show this help."_s);
+    const QCommandLineOption version({u"v"_s, u"version"_s}, u"Show the version."_s);
     const QCommandLineOption folder(u"folder"_s, u"Keep settings and samples in <dir>."_s, u"dir"_s);
     const QCommandLineOption tour(u"tour"_s, u"Save a picture of each form in <dir> and end."_s, u"dir"_s);
-    parser.addOptions({folder, tour});
+    parser.addOptions({help, version, folder, tour});
     parser.addPositionalArgument(u"file"_s, u"The lottery database or investment statement to open."_s,
                                  u"[file]"_s);
 
@@ -77,7 +77,8 @@ CommandLine ReadCommandLine(const QStringList& arguments)
         Print(stderr, u"Only one file can be opened at a time.\n"_s);
         line.exitCode = 2;
     } else if (parser.isSet(help)) {
-        Print(stdout, parser.helpText());
+        // Before there is an application, nobody has told the parser the program's name.
+        Print(stdout, parser.helpText().replace(u"<executable_name>"_s, u"quillaby"_s));
         line.exitCode = 0;
     } else if (parser.isSet(version)) {
         Print(stdout, u"Quillaby System v3.6 (%1)\n"_s.arg(QCoreApplication::applicationVersion()));
@@ -87,6 +88,18 @@ CommandLine ReadCommandLine(const QStringList& arguments)
     line.folder = Absolute(parser.value(folder));
     line.tourFolder = Absolute(parser.value(tour));
     return line;
+}
+
+QString ChooseOwnFolder(const QString& asked)
+{
+    const QString executableFolder = QCoreApplication::applicationDirPath();
+    const FoundSamples samples = FindSamples(executableFolder, QStringLiteral(QUILLABY_SAMPLES_FROM_PROGRAM),
+                                             {kSample, kSampleStatement});
+    return ChooseProgramFolder(
+        {.executableFolder = samples.isInstalled ? QString() : executableFolder,
+         .dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
+         .asked = asked},
+        samples.files);
 }
 
 void ShowIcon()
@@ -234,11 +247,7 @@ int main(int argc, char* argv[])
 
     const QApplication application(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral(QUILLABY_ID)); // so a desktop knows whose window it is
-    const QString programFolder =
-        ChooseProgramFolder({.executableFolder = QCoreApplication::applicationDirPath(),
-                             .dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
-                             .asked = line.folder},
-                            {kSample, kSampleStatement});
+    const QString programFolder = ChooseOwnFolder(line.folder);
     LGLOBAL shared;
     DialogPrompts prompts(shared);
     MDIContainer window(shared, prompts, programFolder);
