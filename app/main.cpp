@@ -1,9 +1,11 @@
 #include "app/AMsgbox.h"
 #include "app/AllYesNo.h"
+#include "app/CallersConsole.h"
 #include "app/ChangeFnt.h"
 #include "app/DatabaseReport.h"
 #include "app/DialogPrompts.h"
 #include "app/FileNames.h"
+#include "app/FileOpener.h"
 #include "app/LGLOBAL.h"
 #include "app/MDIContainer.h"
 #include "app/PictureTour.h"
@@ -52,6 +54,7 @@ QString Absolute(const QString& path)
 
 void Print(FILE* stream, const QString& text)
 {
+    UseCallersConsole();
     std::fputs(text.toLocal8Bit().constData(), stream);
 }
 
@@ -285,6 +288,7 @@ int main(int argc, char* argv[])
     if (!line.tourFolder.isEmpty()) {
         return TakeTour(shared, prompts, window, line);
     }
+    const FileOpener opener([&](const QString& path) { window.OpenNamedFile(path); });
     if (!line.file.isEmpty()) {
         QTimer::singleShot(0, &window, [&] { window.OpenNamedFile(line.file); });
     }
