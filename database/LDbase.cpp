@@ -29,7 +29,6 @@ constexpr int kNotAProperDate = 30;
 constexpr int kDeleteAllFirst = 40;
 constexpr int kMostRecords = 45;
 constexpr int kGoBackAndSave = 3;
-constexpr qint16 kGraphFromEditor = 2;
 
 QString FirstStatisticsLine()
 {
