@@ -125,7 +125,8 @@ Outcome WriteAndCommit(const QString& path, const QByteArray& bytes)
 {
     // setDirectWriteFallback stays off: it would write over the old file in place.
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
+    // Unbuffered, since a flush that gets only a part of the buffer onto the disk has no reason to give.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         return Outcome::Failure(file.errorString());
     }
     // The new file has the permissions of the old one, and none at all when those could not be asked for.
