@@ -11,6 +11,8 @@
 
 #ifdef Q_OS_WIN
 #include <io.h>
+
+#include <cstring>
 #else
 #include <fcntl.h>
 #include <unistd.h>
@@ -20,9 +22,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// @param error  as in errno
 QString SystemReason(int error)
 {
+#ifdef Q_OS_WIN
+    return QString::fromLocal8Bit(
+        std::strerror(error)); // qt_error_string takes the system's own numbers there
+#else
     return qt_error_string(error);
+#endif
 }
 
 /// Forces what was written to an open file onto the disk.
