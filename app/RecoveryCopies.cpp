@@ -212,6 +212,14 @@ void RemoveAll(const QFileInfoList& files)
     }
 }
 
+/// A name of any length must not push the rest out of sight.
+QString Shortened(const QString& name)
+{
+    constexpr qsizetype kMost = 40;
+    const QString line = name.simplified(); // a file may hold a title of several lines
+    return line.size() <= kMost ? line : line.left(kMost - 3) + u"..."_s;
+}
+
 QString Amount(const LeftCopy& copy, const QLocale& locale)
 {
     const QString count = locale.toString(copy.note->records);
@@ -287,6 +295,7 @@ Outcome OwnRecoveryCopies::MakeFolderAndLock()
     if (!lock->tryLock(0)) {
         return Outcome::Failure(u"The folder \"%1\" cannot be written."_s.arg(m_folder));
     }
+    QFile::setPermissions(lock->fileName(), QFile::ReadOwner | QFile::WriteOwner);
     m_lock = std::move(lock);
     return {};
 }
@@ -377,15 +386,15 @@ QString DescribeLeftCopy(const LeftCopy& copy, const QLocale& locale, const QStr
                                                  when);
     }
     QStringList parts;
-    parts << (!copy.note->fileName.isEmpty() ? copy.note->fileName
+    parts << (!copy.note->fileName.isEmpty() ? Shortened(copy.note->fileName)
               : isDatabase                   ? u"A new lottery database"_s
                                              : u"A new investment statement"_s);
-    if (!copy.note->title.isEmpty()) {
-        parts << u'"' + copy.note->title + u'"';
-    }
     parts << Amount(copy, locale) << when;
     if (!copy.note->host.isEmpty() && copy.note->host != host) {
         parts << u"made on "_s + copy.note->host;
+    }
+    if (!copy.note->title.isEmpty()) {
+        parts << u'"' + Shortened(copy.note->title) + u'"';
     }
     return parts.join(u", "_s);
 }

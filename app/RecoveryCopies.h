@@ -106,5 +106,6 @@ struct LeftCopy {
 /// Removes a copy that was left, and what belongs to it.
 [[nodiscard]] Outcome RemoveLeftCopy(const LeftCopy& copy);
 
-/// Says in a sentence what a copy is of: the file's name, the title, how much it holds, and when it was made.
+/// Says in a line what a copy is of: the file's name, how much it holds, when it was made, and the title;
+/// long names are shortened.
 [[nodiscard]] QString DescribeLeftCopy(const LeftCopy& copy, const QLocale& locale, const QString& host);

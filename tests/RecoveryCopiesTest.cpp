@@ -136,7 +136,7 @@ TEST(OwnRecoveryCopies, AreTheUsersAlone)
     EXPECT_FALSE(QFile::permissions(folder) & others);
     EXPECT_EQ(NamesIn(folder),
               QStringList({run.Run() + u".Lto"_s, run.Run() + u".inv"_s, run.Run() + u".lock"_s}));
-    for (const QString& name : {run.Run() + u".Lto"_s, run.Run() + u".inv"_s}) {
+    for (const QString& name : NamesIn(folder)) {
         EXPECT_FALSE(QFile::permissions(folder + u'/' + name) & others) << name.toStdString();
         EXPECT_FALSE(QFile::permissions(folder + u'/' + name) & QFile::ExeOwner) << name.toStdString();
     }
@@ -396,8 +396,13 @@ TEST(LeftCopies, AreDescribedInASentence)
                   .note = ANote(),
                   .time = QDateTime({2026, 11, 18}, {12, 30})};
     const QString when = u", 11/18/2026 12:30 PM"_s;
-    EXPECT_EQ(DescribeLeftCopy(copy, american, kHere).replace(QChar(0x202F), u' '),
-              u"Sämple.Lto, \"A \"quoted\" title, \u20AC\", 57 records"_s + when);
+    EXPECT_EQ(DescribeLeftCopy(copy, american, kHere),
+              u"Sämple.Lto, 57 records"_s + when + u", \"A \"quoted\" title, \u20AC\""_s);
+    copy.note->fileName = QString(300, u'f');
+    copy.note->title = QString(41, u't');
+    EXPECT_EQ(DescribeLeftCopy(copy, american, kHere),
+              QString(37, u'f') + u"..., 57 records"_s + when + u", \""_s + QString(37, u't') + u"...\""_s);
+    copy.note->fileName = u"Sämple.Lto"_s;
     copy.note->title.clear();
     copy.note->records = 1;
     EXPECT_EQ(DescribeLeftCopy(copy, american, u"there"_s),
