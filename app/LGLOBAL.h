@@ -29,6 +29,13 @@ enum FileDialogMode : qint16 {
     kFileDialogCancelled = 9,
 };
 
+/// What the disk is known to hold of a piece of work: whatever else is in memory is not saved, whether or not
+/// a question will be asked about it.
+struct WorkOnDisk {
+    QString folder{};        ///< of the file last opened or saved; "" for none
+    quint64 fingerprint = 0; ///< of what was opened or saved then, see app/WorkFingerprint.h
+};
+
 /// Who has opened the graph, and gets the window back from it.
 enum GraphCaller : qint16 { kGraphFromMenu = 1, kGraphFromEditor = 2 };
 
@@ -53,8 +60,10 @@ struct LGLOBAL {
     QString programFolder; ///< of "Personal.Lot", "Sample.Lto", "Sample.inv", "Extract.lto"
     QString dialogFolder;  ///< folder the next file dialog opens in: that of the database or statement last
                            ///< opened, or chosen to save to; "" for the current folder
-    QString pdfFolder;     ///< folder a PDF file was last saved in; "" for the current folder
-    QString pdfFileName;   ///< name that is proposed for a PDF file
+    WorkOnDisk databaseOnDisk;
+    WorkOnDisk statementOnDisk;
+    QString pdfFolder;          ///< folder a PDF file was last saved in; "" for the current folder
+    QString pdfFileName;        ///< name that is proposed for a PDF file
     QString investmentFileName; ///< of the statement last opened or saved; "" once the tracker is left
 
     // Places and pages

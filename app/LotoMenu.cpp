@@ -105,6 +105,11 @@ void LotoMenu::ShowFileInMemory()
     SetLiteralToolTip(*m_ui->InfoLabel, database.title);
 }
 
+void LotoMenu::AddPanel(QWidget* panel)
+{
+    m_ui->layout->insertWidget(m_ui->layout->indexOf(m_ui->MyName) + 1, panel);
+}
+
 void LotoMenu::OpenNamedFile(const QString& path)
 {
     Switcher().HideForm();

@@ -32,6 +32,9 @@ public:
     /// Says which database is in memory; nothing while there are no records.
     void ShowFileInMemory();
 
+    /// Puts a panel with something to tell above the buttons; it belongs to the menu from now on.
+    void AddPanel(QWidget* panel);
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
 

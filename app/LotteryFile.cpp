@@ -160,7 +160,8 @@ LotteryReading ReadLotteryFile(const QByteArray& bytes, LotteryLayout layout, co
     return LotteryFileReader(bytes, layout, locale).Read();
 }
 
-Outcome WriteLotteryFile(const DrawDatabase& database, const QLocale& locale, QByteArray& bytes)
+Outcome WriteLotteryFile(const DrawDatabase& database, const QLocale& locale, QByteArray& bytes,
+                         NoDates noDates)
 {
     FieldWriter writer;
     writer.Number(database.count);
@@ -176,12 +177,16 @@ Outcome WriteLotteryFile(const DrawDatabase& database, const QLocale& locale, QB
     for (int row = 1; row <= database.count; ++row) {
         const DrawRecord& record = database.records.at(static_cast<std::size_t>(row));
         const std::optional<QDate> date = CellDate(record.date, locale);
-        if (!date) {
+        if (!date && noDates == NoDates::AreRefused) {
             return Outcome::Failure(u"Record %1 has no date that could be written: \"%2\"."_s.arg(row).arg(
                 CellText(record.date)));
         }
         writer.AsHeld(record.number);
-        writer.Date(*date);
+        if (date) {
+            writer.Date(*date);
+        } else {
+            writer.AsHeld(record.date);
+        }
         for (const Cell& drawn : record.drawn) {
             writer.Number(CellNumber(drawn));
         }

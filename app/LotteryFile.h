@@ -41,11 +41,15 @@ struct LotteryReading {
 [[nodiscard]] LotteryReading ReadLotteryFile(const QByteArray& bytes, LotteryLayout layout,
                                              const QLocale& locale);
 
+/// What becomes of a record's date that is no date.
+enum class NoDates { AreRefused, AreWrittenAsHeld };
+
 /// The bytes of the file of the current layout that holds @p database.
 /// Fails, leaving @p bytes as they are, when a record's date is no date, a number is not finite, or the title
 /// has a character outside ISO 8859-1.
-[[nodiscard]] Outcome WriteLotteryFile(const DrawDatabase& database, const QLocale& locale,
-                                       QByteArray& bytes);
+/// @param noDates  a recovery copy takes dates as they are: it must hold all there is
+[[nodiscard]] Outcome WriteLotteryFile(const DrawDatabase& database, const QLocale& locale, QByteArray& bytes,
+                                       NoDates noDates = NoDates::AreRefused);
 
 /// Puts what was read in the place of the open database. Its unsaved-changes flag stays as it is.
 void ReplaceDatabase(DrawDatabase& database, LotteryFileContent&& content, const QString& fileName);

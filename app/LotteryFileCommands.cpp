@@ -2,6 +2,7 @@
 
 #include "app/LotteryFile.h"
 #include "app/SafeFile.h"
+#include "app/WorkFingerprint.h"
 
 #include <QFileInfo>
 
@@ -14,6 +15,14 @@ void RefuseFile(LGLOBAL& shared, Prompts& prompts, const QString& reason)
     Show(shared, prompts, {.number = kNotFoundOrWrongFormat, .reason = reason});
     shared.database.Empty();
     shared.database.modified = 0;
+}
+
+/// What is in memory is what that file holds.
+void RememberFile(LGLOBAL& shared, const QString& path)
+{
+    const QFileInfo file(path);
+    shared.database.fileName = file.fileName();
+    shared.databaseOnDisk = {.folder = file.absolutePath(), .fingerprint = Fingerprint(shared.database)};
 }
 
 Outcome WriteDatabase(const LGLOBAL& shared, const QString& path)
@@ -38,7 +47,7 @@ void SaveUnderChosenName(LGLOBAL& shared, Prompts& prompts)
     }
     const Outcome saved = WriteDatabase(shared, shared.chosenPath);
     if (saved.ok) {
-        shared.database.fileName = QFileInfo(shared.chosenPath).fileName();
+        RememberFile(shared, shared.chosenPath);
     } else {
         Show(shared, prompts, {.number = kBadFileName, .reason = saved.reason});
     }
@@ -75,6 +84,7 @@ bool OpenLotteryFile(LGLOBAL& shared, Prompts& prompts, const QString& path)
         prompts.SetBusyPointer(true);
     }
     ReplaceDatabase(shared.database, std::move(*reading.content), QFileInfo(path).fileName());
+    RememberFile(shared, path);
     return true;
 }
 

@@ -121,7 +121,7 @@ bool WriteAll(QSaveFile& file, const QByteArray& bytes)
     return true;
 }
 
-Outcome WriteAndCommit(const QString& path, const QByteArray& bytes)
+Outcome WriteAndCommit(const QString& path, const QByteArray& bytes, NewFileFor readers)
 {
     // setDirectWriteFallback stays off: it would write over the old file in place.
     QSaveFile file(path);
@@ -134,6 +134,13 @@ Outcome WriteAndCommit(const QString& path, const QByteArray& bytes)
         file.cancelWriting();
         file.commit();
         return Outcome::Failure(u"The permissions of the old file cannot be kept."_s);
+    }
+    if (readers == NewFileFor::OwnerAlone && !QFile::exists(path) &&
+        !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)) {
+        const QString reason = file.errorString();
+        file.cancelWriting();
+        file.commit();
+        return Outcome::Failure(reason);
     }
     // commit() alone looks only at the write error and forgets what its own flush finds, so that a full disk
     // would put an empty file in the place of the old one. Every step is therefore made and asked here.
@@ -180,7 +187,7 @@ Outcome ReadFileBytes(const QString& path, QByteArray& bytes)
     return {};
 }
 
-Outcome SaveFileBytes(const QString& path, const QByteArray& bytes)
+Outcome SaveFileBytes(const QString& path, const QByteArray& bytes, NewFileFor readers)
 {
     const QFileInfo target(path);
     if (target.fileName().isEmpty()) {
@@ -192,7 +199,7 @@ Outcome SaveFileBytes(const QString& path, const QByteArray& bytes)
     if (bytes.size() > kLargestFile) {
         return Outcome::Failure(u"The file would be far larger than any of this program's."_s);
     }
-    if (Outcome written = WriteAndCommit(path, bytes); !written.ok) {
+    if (Outcome written = WriteAndCommit(path, bytes, readers); !written.ok) {
         return written;
     }
     // Of a link, the file it leads to was replaced.

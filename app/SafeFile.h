@@ -12,10 +12,14 @@ inline constexpr qint64 kLargestFile = qint64{16} * 1024 * 1024;
 /// On failure the reason is the system's own and @p bytes is untouched.
 [[nodiscard]] Outcome ReadFileBytes(const QString& path, QByteArray& bytes);
 
+/// Who may read a file that is new. A file that is replaced keeps its permissions.
+enum class NewFileFor { Everyone, OwnerAlone };
+
 /// Saves so that the file holds either its old content or the new, never a mixture and never nothing: the
 /// bytes go to a new file in the same folder, are forced to the disk, take the old file's place, and are read
 /// back. Links are followed. Only a regular file is ever replaced.
 ///
 /// On failure the reason is the system's own, and an old file is whole; only when the very last steps fail,
 /// with the new file in its place already, it is the new one that is whole.
-[[nodiscard]] Outcome SaveFileBytes(const QString& path, const QByteArray& bytes);
+[[nodiscard]] Outcome SaveFileBytes(const QString& path, const QByteArray& bytes,
+                                    NewFileFor readers = NewFileFor::Everyone);

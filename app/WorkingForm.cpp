@@ -8,6 +8,12 @@ WorkingForm::WorkingForm(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switch
     setAutoFillBackground(true);
 }
 
+Outcome WorkingForm::TakeRecovered(const RecoveredWork& work)
+{
+    Q_UNUSED(work)
+    return Outcome::Failure(QStringLiteral("This form holds nothing of that kind."));
+}
+
 QPoint WorkingForm::ResizedPlace(qint32 layoutSize)
 {
     return layoutSize < kLargeLayoutFrom ? QPoint(-60, -30) : QPoint(1200, 1000);

@@ -4,6 +4,7 @@
 #include "app/FormSwitcher.h"
 #include "app/LGLOBAL.h"
 #include "app/Prompts.h"
+#include "app/RecoveryCopies.h"
 
 #include <QWidget>
 
@@ -21,6 +22,10 @@ public:
 
     /// Opens a file that was named outside, as on the command line. A form without files does nothing.
     virtual void OpenNamedFile(const QString& path) { Q_UNUSED(path) }
+
+    /// Takes work that was recovered after an unclean end, as work that is not saved. A form that holds none
+    /// refuses. On failure the form is as before and the reason says what is wrong.
+    [[nodiscard]] virtual Outcome TakeRecovered(const RecoveredWork& work);
 
     /// Asked before the program ends while the form is shown: a form that holds what is not saved asks the
     /// user.

@@ -2,6 +2,7 @@
 #include "app/AllYesNo.h"
 #include "app/CallersConsole.h"
 #include "app/ChangeFnt.h"
+#include "app/DatabaseRecovery.h"
 #include "app/DatabaseReport.h"
 #include "app/DialogPrompts.h"
 #include "app/FileNames.h"
@@ -12,6 +13,7 @@
 #include "app/PrintPreview.h"
 #include "app/Printing.h"
 #include "app/ProgramFolder.h"
+#include "app/Recovery.h"
 #include "database/Extract.h"
 #include "database/InRecNum.h"
 #include "database/LDbase.h"
@@ -20,6 +22,7 @@
 #include "hotcold/LHotCold.h"
 #include "invest/InInvNum.h"
 #include "invest/LInvTrack.h"
+#include "invest/StatementRecovery.h"
 #include "picks/LCheckWin.h"
 #include "picks/Lottery.h"
 
@@ -277,9 +280,14 @@ int main(int argc, char* argv[])
     if (!line.tourFolder.isEmpty()) {
         return TakeTour(shared, prompts, window, line);
     }
+    Recovery recovery(shared, prompts, window, UsualRecoveryFolder(),
+                      {KeptDatabase(shared), KeptStatement(shared)});
+    recovery.Start();
     const FileOpener opener([&](const QString& path) { window.OpenNamedFile(path); });
     if (!line.file.isEmpty()) {
         QTimer::singleShot(0, &window, [&] { window.OpenNamedFile(line.file); });
     }
-    return QApplication::exec();
+    const int result = QApplication::exec();
+    recovery.EndCleanly();
+    return result;
 }

@@ -1,5 +1,6 @@
 #include "app/LotteryFile.h"
 #include "app/SafeFile.h"
+#include "app/WorkFingerprint.h"
 #include "bench/MadeLottery.h"
 
 #include <QFile>
@@ -143,6 +144,28 @@ void WriteLottery(benchmark::State& state)
     CountBytes(state, bytes.size());
 }
 BENCHMARK(WriteLottery)->Arg(6)->Arg(10)->ArgName("picks")->Unit(benchmark::kMicrosecond);
+
+// Looking whether all is saved, every few seconds
+
+/// Against a second database that would have to be kept for it.
+void CompareWithCopy(benchmark::State& state)
+{
+    const DrawDatabase database = MadeLottery(kRecords, static_cast<int>(state.range(0)), kHighest);
+    const DrawDatabase copy = database;
+    while (state.KeepRunning()) {
+        benchmark::DoNotOptimize(database.records == copy.records);
+    }
+}
+BENCHMARK(CompareWithCopy)->Arg(6)->Arg(10)->ArgName("picks")->Unit(benchmark::kMicrosecond);
+
+void FingerprintOfLottery(benchmark::State& state)
+{
+    const DrawDatabase database = MadeLottery(kRecords, static_cast<int>(state.range(0)), kHighest);
+    while (state.KeepRunning()) {
+        benchmark::DoNotOptimize(Fingerprint(database));
+    }
+}
+BENCHMARK(FingerprintOfLottery)->Arg(6)->Arg(10)->ArgName("picks")->Unit(benchmark::kMicrosecond);
 
 // Saving
 

@@ -2,6 +2,7 @@
 
 #include "app/FileNames.h"
 #include "app/SafeFile.h"
+#include "app/WorkFingerprint.h"
 
 #include <QFileInfo>
 
@@ -24,9 +25,12 @@ void EndFileDialog(LGLOBAL& shared)
     shared.chosenPath.clear();
 }
 
-void Remember(LGLOBAL& shared, const QString& path)
+/// That file holds these rows.
+void Remember(LGLOBAL& shared, const QString& path, const InvestmentTable& rows)
 {
-    shared.investmentFileName = QFileInfo(path).fileName();
+    const QFileInfo file(path);
+    shared.investmentFileName = file.fileName();
+    shared.statementOnDisk = {.folder = file.absolutePath(), .fingerprint = Fingerprint(rows)};
 }
 
 /// Refused without a reason: the message itself says what is wrong with the name.
@@ -71,7 +75,7 @@ InvestmentReading ReadInvestmentFileAt(LGLOBAL& shared, Prompts& prompts, const 
     if (!mayReplace()) {
         return {};
     }
-    Remember(shared, path);
+    Remember(shared, path, reading.statement->rows);
     shared.dialogFolder = QFileInfo(path).absolutePath();
     return reading;
 }
@@ -102,7 +106,7 @@ bool SaveInvestmentFile(LGLOBAL& shared, Prompts& prompts, const InvestmentState
         const Outcome written = WriteAt(shared.chosenPath, statement);
         saved = written.ok;
         if (saved) {
-            Remember(shared, shared.chosenPath);
+            Remember(shared, shared.chosenPath, statement.rows);
         } else {
             Show(shared, prompts, {.number = kBadFileName, .reason = written.reason});
         }

@@ -9,6 +9,7 @@
 #include "invest/InvestmentHelp.h"
 #include "invest/InvestmentPrintout.h"
 #include "invest/LostAmounts.h"
+#include "invest/StatementRecovery.h"
 #include "ui_LInvTrack.h"
 
 #include <QHeaderView>
@@ -214,6 +215,17 @@ void LInvTrack::InsertLine()
 void LInvTrack::OpenNamedFile(const QString& path)
 {
     TakeLoaded(ReadInvestmentFileAt(Shared(), Asking(), path, [this] { return MayBeReplaced(); }));
+}
+
+Outcome LInvTrack::TakeRecovered(const RecoveredWork& work)
+{
+    const InvestmentReading reading = ReadRecoveredStatement(Shared(), work);
+    if (!reading.statement) {
+        return Outcome::Failure(reading.reason);
+    }
+    TakeLoaded(reading);
+    m_changed = true;
+    return {};
 }
 
 void LInvTrack::OpenFile()

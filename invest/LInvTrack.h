@@ -31,6 +31,8 @@ public:
     /// Opens a file without asking for it.
     void OpenNamedFile(const QString& path) override;
 
+    [[nodiscard]] Outcome TakeRecovered(const RecoveredWork& work) override;
+
 private:
     void SetUpGrid();
     void ConnectCommands();

@@ -1,35 +1,14 @@
 #include "tests/FormBench.h"
 
+#include "tests/AllForms.h"
+
 using namespace Qt::StringLiterals;
 
 FormBench::FormBench()
 {
     m_shared.locale = QLocale(QLocale::English, QLocale::UnitedStates);
     m_shared.today = [] { return QDate(2026, 11, 18); }; // a Wednesday
-    m_window.AddForm(FormName::LDbase, [this](FormSwitcher& switcher, QWidget* parent) {
-        return new LDbase(m_shared, m_prompts, switcher, parent);
-    });
-    m_window.AddForm(FormName::LHotCold, [this](FormSwitcher& switcher, QWidget* parent) {
-        return new LHotCold(m_shared, m_prompts, switcher, parent);
-    });
-    m_window.AddForm(FormName::LCheckWin, [this](FormSwitcher& switcher, QWidget* parent) {
-        return new LCheckWin(m_shared, m_prompts, switcher, parent);
-    });
-    m_window.AddForm(FormName::LInvTrack, [this](FormSwitcher& switcher, QWidget* parent) {
-        return new LInvTrack(m_shared, m_prompts, switcher, parent);
-    });
-    m_window.AddForm(FormName::Lottery, [this](FormSwitcher& switcher, QWidget* parent) {
-        return new Lottery(m_shared, m_prompts, switcher, parent);
-    });
-    m_window.AddForm(FormName::LGraph, [this](FormSwitcher& switcher, QWidget* parent) {
-        return new LGraph(m_shared, m_prompts, switcher, parent);
-    });
-    m_window.AddDialog(FormName::ChangeFnt, [this](FormSwitcher& switcher, QWidget* mainWindow) {
-        ChangeFnt(m_shared, m_prompts, switcher, mainWindow).exec();
-    });
-    m_window.AddDialog(FormName::Extract, [this](FormSwitcher& switcher, QWidget* mainWindow) {
-        Extract(m_shared, m_prompts, switcher, mainWindow).exec();
-    });
+    AddAllForms(m_window, m_shared, m_prompts);
 }
 
 FormBench::~FormBench()

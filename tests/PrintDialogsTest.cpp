@@ -537,6 +537,36 @@ TEST(LongWork, WhatTheUserDoesMeanwhileIsDroppedAndNotDoneAfterwards)
     EXPECT_EQ(presses, 1) << "afterwards input is taken again";
 }
 
+TEST(LongWork, ADialogThatWasOnItsWayCanBeAnsweredSoThatTheWaitEnds)
+{
+    QMainWindow window;
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    bool answered = false;
+    std::binary_semaphore opened(0);
+    QTimer::singleShot(0, &window, [&] { // as an access key's button that takes a moment
+        QDialog dialog(&window);
+        auto* button = new QPushButton(u"Yes"_s, &dialog);
+        QObject::connect(button, &QPushButton::clicked, &dialog, [&] {
+            answered = true;
+            dialog.accept();
+        });
+        opened.release(); // the work is over while the dialog is open
+        QTimer::singleShot(700, &dialog, [&] {
+            EXPECT_EQ(window.findChild<QProgressDialog*>(u"Progress"_s), nullptr)
+                << "it would block the dialog";
+            QTest::mouseClick(button, Qt::LeftButton);
+        });
+        QTimer::singleShot(5000, &dialog, &QDialog::reject); // should the press be dropped
+        dialog.exec();
+    });
+    EXPECT_TRUE(RunLongWork(&window, {}, 0, [&](const StepsDone&) {
+                    opened.acquire();
+                    return Outcome{};
+                }).ok);
+    EXPECT_TRUE(answered);
+}
+
 TEST(LongWork, WorkOnTheThreadOfTheWindowsCannotBeEnteredASecondTime)
 {
     QMainWindow window;

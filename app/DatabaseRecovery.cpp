@@ -1,0 +1,62 @@
+#include "app/DatabaseRecovery.h"
+
+#include "app/FieldWriter.h"
+#include "app/LotteryFile.h"
+#include "app/WorkFingerprint.h"
+
+namespace {
+
+bool FitsLotteryFile(const QString& title)
+{
+    return FitsFileText(title) && !title.contains(u'"');
+}
+
+Outcome WriteCopy(const LGLOBAL& shared, QByteArray& bytes, RecoveryNote& note)
+{
+    const DrawDatabase& database = shared.database;
+    note.fileName = database.fileName;
+    note.folder = shared.databaseOnDisk.folder;
+    note.title = database.title;
+    note.records = database.count;
+    if (FitsLotteryFile(database.title)) {
+        return WriteLotteryFile(database, shared.locale, bytes, NoDates::AreWrittenAsHeld);
+    }
+    DrawDatabase untitled = database; // the note has the title
+    untitled.title.clear();
+    return WriteLotteryFile(untitled, shared.locale, bytes, NoDates::AreWrittenAsHeld);
+}
+
+} // namespace
+
+KeptWork KeptDatabase(const LGLOBAL& shared)
+{
+    const auto unsaved = [&shared]() -> std::optional<quint64> {
+        if (shared.database.count <= 0) {
+            return std::nullopt;
+        }
+        const quint64 fingerprint = Fingerprint(shared.database);
+        return fingerprint == shared.databaseOnDisk.fingerprint ? std::nullopt : std::optional(fingerprint);
+    };
+    return {.kind = WorkKind::Database, .unsaved = unsaved, .write = [&shared](auto& bytes, auto& note) {
+                return WriteCopy(shared, bytes, note);
+            }};
+}
+
+Outcome TakeRecoveredDatabase(LGLOBAL& shared, const RecoveredWork& work)
+{
+    LotteryReading reading = ReadLotteryFile(work.bytes, LotteryLayout::Current, shared.locale);
+    if (!reading.content) {
+        return Outcome::Failure(reading.reason);
+    }
+    const RecoveryNote note = work.note.value_or(RecoveryNote{});
+    if (work.note) {
+        reading.content->title = note.title;
+    }
+    ReplaceDatabase(shared.database, std::move(*reading.content), note.fileName);
+    shared.database.modified = 1;
+    shared.databaseOnDisk = {.folder = note.folder, .fingerprint = 0};
+    if (!note.folder.isEmpty()) {
+        shared.dialogFolder = note.folder; // where the next dialog finds the work's own file
+    }
+    return {};
+}
