@@ -1,6 +1,7 @@
 #include "app/LotteryFileCommands.h"
 
 #include "app/LotteryFile.h"
+#include "app/RecentFiles.h"
 #include "app/SafeFile.h"
 
 #include <QFileInfo>
@@ -23,6 +24,12 @@ Outcome WriteDatabase(const LGLOBAL& shared, const QString& path)
     return written.ok ? SaveFileBytes(path, bytes) : written;
 }
 
+void RememberDatabase(LGLOBAL& shared, const QString& path)
+{
+    shared.databasePath = QFileInfo(path).absoluteFilePath();
+    RememberFile(shared.recentFilesList, shared.databasePath);
+}
+
 void SaveUnderChosenName(LGLOBAL& shared, Prompts& prompts)
 {
     constexpr int kNoRecords = 15;
@@ -39,6 +46,7 @@ void SaveUnderChosenName(LGLOBAL& shared, Prompts& prompts)
     const Outcome saved = WriteDatabase(shared, shared.chosenPath);
     if (saved.ok) {
         shared.database.fileName = QFileInfo(shared.chosenPath).fileName();
+        RememberDatabase(shared, shared.chosenPath);
     } else {
         Show(shared, prompts, {.number = kBadFileName, .reason = saved.reason});
     }
@@ -75,7 +83,14 @@ bool OpenLotteryFile(LGLOBAL& shared, Prompts& prompts, const QString& path)
         prompts.SetBusyPointer(true);
     }
     ReplaceDatabase(shared.database, std::move(*reading.content), QFileInfo(path).fileName());
+    RememberDatabase(shared, path);
     return true;
+}
+
+QString DatabaseFilePath(const LGLOBAL& shared)
+{
+    const QString& name = shared.database.fileName;
+    return QFileInfo(shared.databasePath).fileName() == name ? shared.databasePath : name;
 }
 
 void LoadFile(LGLOBAL& shared, Prompts& prompts)

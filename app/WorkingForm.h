@@ -22,6 +22,16 @@ public:
     /// Opens a file that was named outside, as on the command line. A form without files does nothing.
     virtual void OpenNamedFile(const QString& path) { Q_UNUSED(path) }
 
+    /// Whether a file dropped on the form can be opened now, without harm to what the user is doing.
+    [[nodiscard]] virtual bool OpensDropped(const QString& path) const
+    {
+        Q_UNUSED(path)
+        return false;
+    }
+
+    /// The file that the form works on, with its folder as far as it is known; "" for none.
+    [[nodiscard]] virtual QString FilePath() const;
+
     /// Asked before the program ends while the form is shown: a form that holds what is not saved asks the
     /// user.
     /// @return false when the user wants to go back.

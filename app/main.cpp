@@ -88,6 +88,13 @@ CommandLine ReadCommandLine(const QStringList& arguments)
     return line;
 }
 
+/// With the user's own settings, not in the program folder: it may be on a stick that goes from hand to hand.
+QString RecentFilesList()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+    return folder.isEmpty() ? QString() : folder + u"/recent-files"_s;
+}
+
 std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContainer& window)
 {
     const auto message = [&] {
@@ -212,6 +219,9 @@ int main(int argc, char* argv[])
                              .asked = line.folder},
                             {kSample, kSampleStatement});
     LGLOBAL shared;
+    if (line.tourFolder.isEmpty()) { // a tour leaves no traces
+        shared.recentFilesList = RecentFilesList();
+    }
     DialogPrompts prompts(shared);
     MDIContainer window(shared, prompts, programFolder);
     prompts.SetMainWindow(&window);

@@ -1,6 +1,7 @@
 #include "invest/InvestmentFileCommands.h"
 
 #include "app/FileNames.h"
+#include "app/RecentFiles.h"
 #include "app/SafeFile.h"
 
 #include <QFileInfo>
@@ -27,6 +28,8 @@ void EndFileDialog(LGLOBAL& shared)
 void Remember(LGLOBAL& shared, const QString& path)
 {
     shared.investmentFileName = QFileInfo(path).fileName();
+    shared.statementPath = QFileInfo(path).absoluteFilePath();
+    RememberFile(shared.recentFilesList, shared.statementPath);
 }
 
 /// Refused without a reason: the message itself says what is wrong with the name.
