@@ -1,4 +1,5 @@
 #include "app/AMsgbox.h"
+#include "app/AccessibleButtons.h"
 #include "app/AllYesNo.h"
 #include "app/ChangeFnt.h"
 #include "app/DatabaseReport.h"
@@ -10,6 +11,7 @@
 #include "app/PrintPreview.h"
 #include "app/Printing.h"
 #include "app/ProgramFolder.h"
+#include "app/ShownFocus.h"
 #include "database/Extract.h"
 #include "database/InRecNum.h"
 #include "database/LDbase.h"
@@ -213,6 +215,8 @@ int main(int argc, char* argv[])
     }
 
     const QApplication application(argc, argv);
+    InstallAccessibleButtons();
+    InstallShownFocus();
     const QString programFolder =
         ChooseProgramFolder({.executableFolder = QCoreApplication::applicationDirPath(),
                              .dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
