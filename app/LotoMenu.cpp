@@ -22,7 +22,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kNoRecordsToWorkWith = 44;
-constexpr qint16 kGraphFromMenu = 1;
 
 /// What stands in the place of the database while there is none.
 QString HowToBegin()

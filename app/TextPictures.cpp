@@ -50,6 +50,11 @@ constexpr int kCertainDigits = 15;
 /// lies below it.
 Digits DigitsOf(double magnitude)
 {
+    constexpr double kBeyondCertain = 1e15;
+    if (magnitude < kBeyondCertain && magnitude == std::floor(magnitude)) { // nearly everything that is shown
+        const QByteArray whole = QByteArray::number(static_cast<qint64>(magnitude));
+        return {whole, whole.size()};
+    }
     const QByteArray scientific = QByteArray::number(magnitude, 'e', kCertainDigits - 1);
     const qsizetype mark = scientific.indexOf('e');
     Digits result;
@@ -66,12 +71,12 @@ Digits DigitsOf(double magnitude)
 
 Digits DigitsOf(Currency amount)
 {
-    constexpr qsizetype kDecimals = 4;
+    constexpr qsizetype kPlaces = 4;
     const auto count = static_cast<quint64>(amount.TenThousandths());
     Digits result;
     result.digits =
-        QByteArray::number(amount < Currency() ? 0 - count : count).rightJustified(kDecimals + 1, '0');
-    result.wholeDigits = result.digits.size() - kDecimals;
+        QByteArray::number(amount < Currency() ? 0 - count : count).rightJustified(kPlaces + 1, '0');
+    result.wholeDigits = result.digits.size() - kPlaces;
     return result;
 }
 
@@ -135,6 +140,19 @@ QString Write(const Digits& exact, bool negative, QStringView picture)
 bool IsDigit(QChar ch)
 {
     return ch >= u'0' && ch <= u'9';
+}
+
+/// The value of a text of nothing but figures, so few that a double holds it; empty for other texts.
+std::optional<qint64> PlainWholeNumber(QStringView text)
+{
+    if (text.isEmpty() || text.size() > kCertainDigits || !std::all_of(text.begin(), text.end(), IsDigit)) {
+        return std::nullopt;
+    }
+    qint64 value = 0;
+    for (const QChar digit : text) {
+        value = value * 10 + (digit.unicode() - u'0');
+    }
+    return value;
 }
 
 /// The double nearest to a decimal number, the largest one for all beyond it.
@@ -217,6 +235,9 @@ QByteArray LeadingNumber(QStringView text)
 
 double Val(QStringView text)
 {
+    if (const std::optional<qint64> whole = PlainWholeNumber(text)) {
+        return static_cast<double>(*whole);
+    }
     const QByteArray number = LeadingNumber(text);
     return number.isEmpty() ? 0 : NearestDouble(number);
 }
