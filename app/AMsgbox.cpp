@@ -11,6 +11,11 @@ AMsgbox::AMsgbox(const LGLOBAL& shared, const QString& text, QWidget* mainWindow
     m_ui->TextMsg->setPlainText(text);
     m_ui->Reason->setText(shared.messageReason);
     m_ui->Reason->setVisible(!shared.messageReason.isEmpty());
+    m_ui->OfferButt->hide();
+    // The longest message of the table shows whole, in letters of any size.
+    constexpr QSize kLetters(48, 12);
+    resize(size().expandedTo({kLetters.width() * fontMetrics().averageCharWidth(),
+                              kLetters.height() * fontMetrics().lineSpacing()}));
     connect(m_ui->AMsgExit, &QPushButton::clicked, this, &QDialog::accept);
 }
 
@@ -19,6 +24,16 @@ AMsgbox::AMsgbox(const LGLOBAL& shared, QWidget* mainWindow)
 {}
 
 AMsgbox::~AMsgbox() = default;
+
+void AMsgbox::Offer(const QString& caption, const std::function<void()>& deed)
+{
+    m_ui->OfferButt->setText(caption);
+    m_ui->OfferButt->show();
+    connect(m_ui->OfferButt, &QPushButton::clicked, this, [this, deed] {
+        deed();
+        accept();
+    });
+}
 
 void AMsgbox::showEvent(QShowEvent* event)
 {

@@ -4,6 +4,7 @@
 
 #include <QDialog>
 
+#include <functional>
 #include <memory>
 
 namespace Ui {
@@ -22,6 +23,9 @@ public:
     AMsgbox(const LGLOBAL& shared, const QString& text, QWidget* mainWindow);
 
     ~AMsgbox() override;
+
+    /// Offers to do something about what is told: a second button, which closes the window too.
+    void Offer(const QString& caption, const std::function<void()>& deed);
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -89,6 +89,19 @@ void DialogPrompts::Notice(const QString& text)
     box.exec();
 }
 
+bool DialogPrompts::Offer(const QString& text, const QString& deed)
+{
+    if (m_unattended) {
+        Print(text);
+        return false;
+    }
+    AMsgbox box(m_shared, text, Below(m_mainWindow));
+    bool taken = false;
+    box.Offer(deed, [&] { taken = true; });
+    box.exec();
+    return taken;
+}
+
 void DialogPrompts::SetBusyPointer(bool busy)
 {
     if (busy == m_busy) {

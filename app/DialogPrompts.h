@@ -28,6 +28,7 @@ public:
     void PrintDocument(const PrintedDocument& document) override;
     void FileDirectory() override;
     void Notice(const QString& text) override;
+    [[nodiscard]] bool Offer(const QString& text, const QString& deed) override;
     void SetBusyPointer(bool busy) override;
 
 private:

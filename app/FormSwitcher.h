@@ -39,6 +39,10 @@ public:
     /// The main window's caption.
     virtual void SetCaption(const QString& caption) = 0;
 
+    /// The form that is shown has opened or saved a file: the window says which one is open, in the place the
+    /// desktop has for it.
+    virtual void FileChanged() = 0;
+
     /// Ends the program at once; whoever calls has asked before.
     virtual void EndProgram() = 0;
 

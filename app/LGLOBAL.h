@@ -65,6 +65,9 @@ struct LGLOBAL {
     QString pdfFolder;          ///< folder a PDF file was last saved in; "" for the current folder
     QString pdfFileName;        ///< name that is proposed for a PDF file
     QString investmentFileName; ///< of the statement last opened or saved; "" once the tracker is left
+    QString databasePath;       ///< full path of the database file last opened or saved; see DatabaseFilePath
+    QString statementPath;      ///< full path of the statement last opened or saved
+    QString recentFilesList;    ///< file that keeps the list of the files last opened or saved; "" keeps none
 
     // Places and pages
     qint32 layoutSize = 6810; ///< 8670 when the main window is taller than 8,500 twips, else 6810

@@ -1,13 +1,18 @@
 #include "app/LotoMenu.h"
 
+#include "app/DatabaseFacts.h"
 #include "app/DatabaseReport.h"
 #include "app/LotteryFileCommands.h"
 #include "app/Printing.h"
+#include "app/RecentFiles.h"
+#include "app/RecentFilesMenu.h"
 #include "app/StartUp.h"
 #include "app/ToolTips.h"
 #include "ui_LotoMenu.h"
 
+#include <QDir>
 #include <QFileInfo>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -17,6 +22,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kNoRecordsToWorkWith = 44;
+
+/// What stands in the place of the database while there is none.
+QString HowToBegin()
+{
+    return u"No lottery is open yet. To look around, open Sample.Lto with 'Open a File from Disk'.\n"
+           "To keep your own lottery, start with 'View and Edit Database'."_s;
+}
 
 } // namespace
 
@@ -33,6 +45,7 @@ LotoMenu::LotoMenu(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QS
     m_ui->Label3->SetColors({QColor(0xF0, 0x50, 0x50), QColor(0xF5, 0xD0, 0x30), QColor(0x30, 0xC0, 0xD8)});
     m_ui->Label4->SetColors({QColor(0x58, 0xC8, 0x58), QColor(0xE8, 0xE8, 0xE8), QColor(0xD8, 0x60, 0xC8)});
     ConnectButtons();
+    QTimer::singleShot(0, this, &LotoMenu::SetUpRecentFiles); // not in the way of the first picture
 }
 
 LotoMenu::~LotoMenu() = default;
@@ -56,18 +69,48 @@ void LotoMenu::ConnectButtons()
     Events().OnClick(m_ui->Exit1Butt, [this] { Exit(); });
 }
 
+void LotoMenu::SetUpRecentFiles()
+{
+    auto* files = new RecentFilesMenu(Shared(), this);
+    files->setObjectName(u"RecentFiles"_s);
+    connect(files, &RecentFilesMenu::Chosen, this, &LotoMenu::OpenRecentFile);
+    m_ui->OpenRecent->setMenu(files);
+}
+
+void LotoMenu::OpenRecentFile(const QString& path)
+{
+    // Here the file is looked at for the first time.
+    if (QFileInfo::exists(path)) {
+        Q_EMIT RecentFileChosen(path);
+        return;
+    }
+    const QFileInfo file(path);
+    const QString text = u"\"%1\" is not there any more.\n\nIt was in %2."_s.arg(
+        file.fileName(), QDir::toNativeSeparators(file.absolutePath()));
+    if (Asking().Offer(text, u"&Remove from List"_s)) {
+        ForgetFile(Shared().recentFilesList, path);
+    }
+}
+
+bool LotoMenu::OpensDropped(const QString& /*path*/) const
+{
+    return true;
+}
+
 void LotoMenu::resizeEvent(QResizeEvent* event)
 {
     WorkingForm::resizeEvent(event);
     // A large window has room for large letters. The opening size keeps the desktop's own, which costs no
     // time.
-    constexpr int kOpeningHeight = 470;
+    constexpr QSizeF kOpening(43, 31); // in heights of a line
     constexpr qreal kLargest = 1.5;
-    const qreal growth = std::clamp(qreal(height()) / kOpeningHeight, qreal(1), kLargest);
+    const QSizeF lines = QSizeF(size()) / fontMetrics().height();
+    const qreal growth = std::clamp(
+        std::min(lines.width() / kOpening.width(), lines.height() / kOpening.height()), qreal(1), kLargest);
     QFont letters = font();
     letters.setPointSizeF(letters.pointSizeF() * growth);
-    const QList<QPushButton*> buttons = findChildren<QPushButton*>();
-    for (QPushButton* button : buttons) {
+    const QList<QAbstractButton*> buttons = findChildren<QAbstractButton*>();
+    for (QAbstractButton* button : buttons) {
         if (button->font() != letters) {
             button->setFont(letters);
         }
@@ -103,6 +146,9 @@ void LotoMenu::ShowFileInMemory()
     constexpr int kMostLines = 3;
     m_ui->InfoLabel->setMaximumHeight(kMostLines * m_ui->InfoLabel->fontMetrics().lineSpacing());
     SetLiteralToolTip(*m_ui->InfoLabel, database.title);
+    m_ui->InfoLabel->setVisible(database.count != 0);
+    const QString facts = DatabaseFacts(database, Shared().locale);
+    m_ui->Facts->setText(facts.isEmpty() ? HowToBegin() : facts);
 }
 
 void LotoMenu::AddPanel(QWidget* panel)

@@ -26,21 +26,30 @@ public:
     /// Opens a lottery database without asking for it and shows the editor.
     void OpenNamedFile(const QString& path) override;
 
+    /// On the menu every file may be opened.
+    [[nodiscard]] bool OpensDropped(const QString& path) const override;
+
     /// Shows the user's name, or hides its label when there is none.
     void ShowUserName();
 
-    /// Says which database is in memory; nothing while there are no records.
+    /// Says which database is in memory, and what it holds; without records, how to begin.
     void ShowFileInMemory();
 
     /// Puts a panel with something to tell above the buttons; it belongs to the menu from now on.
     void AddPanel(QWidget* panel);
+
+Q_SIGNALS:
+    /// The user has chosen one of the files last opened, and it is there.
+    void RecentFileChosen(const QString& path);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void ConnectButtons();
+    void SetUpRecentFiles();
     void OpenFile();
+    void OpenRecentFile(const QString& path);
     void SaveFileToDisk();
     void ShowWithRecords(FormName form);
     void ShowGraphs();

@@ -1,6 +1,7 @@
 #include "app/LotteryFileCommands.h"
 
 #include "app/LotteryFile.h"
+#include "app/RecentFiles.h"
 #include "app/SafeFile.h"
 #include "app/WorkFingerprint.h"
 
@@ -18,11 +19,13 @@ void RefuseFile(LGLOBAL& shared, Prompts& prompts, const QString& reason)
 }
 
 /// What is in memory is what that file holds.
-void RememberFile(LGLOBAL& shared, const QString& path)
+void HoldsFile(LGLOBAL& shared, const QString& path)
 {
     const QFileInfo file(path);
     shared.database.fileName = file.fileName();
+    shared.databasePath = file.absoluteFilePath();
     shared.databaseOnDisk = {.folder = file.absolutePath(), .fingerprint = Fingerprint(shared.database)};
+    RememberFile(shared.recentFilesList, shared.databasePath);
 }
 
 Outcome WriteDatabase(const LGLOBAL& shared, const QString& path)
@@ -47,7 +50,7 @@ void SaveUnderChosenName(LGLOBAL& shared, Prompts& prompts)
     }
     const Outcome saved = WriteDatabase(shared, shared.chosenPath);
     if (saved.ok) {
-        RememberFile(shared, shared.chosenPath);
+        HoldsFile(shared, shared.chosenPath);
     } else {
         Show(shared, prompts, {.number = kBadFileName, .reason = saved.reason});
     }
@@ -84,8 +87,14 @@ bool OpenLotteryFile(LGLOBAL& shared, Prompts& prompts, const QString& path)
         prompts.SetBusyPointer(true);
     }
     ReplaceDatabase(shared.database, std::move(*reading.content), QFileInfo(path).fileName());
-    RememberFile(shared, path);
+    HoldsFile(shared, path);
     return true;
+}
+
+QString DatabaseFilePath(const LGLOBAL& shared)
+{
+    const QString& name = shared.database.fileName;
+    return QFileInfo(shared.databasePath).fileName() == name ? shared.databasePath : name;
 }
 
 void LoadFile(LGLOBAL& shared, Prompts& prompts)

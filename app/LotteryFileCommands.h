@@ -17,6 +17,10 @@ void LoadFile(LGLOBAL& shared, Prompts& prompts);
 /// @return whether it was opened.
 bool OpenLotteryFile(LGLOBAL& shared, Prompts& prompts, const QString& path);
 
+/// The file of the open database: with its folder, unless the database came about otherwise since, as an
+/// extract does; "" when it has no name.
+[[nodiscard]] QString DatabaseFilePath(const LGLOBAL& shared);
+
 /// Asks where to save the open database and saves it. Without records message 15, after a failure message 14;
 /// an old file is whole then.
 ///

@@ -1,5 +1,6 @@
 #include "app/MDIContainer.h"
 
+#include "app/FileDrop.h"
 #include "app/FileNames.h"
 #include "app/Twips.h"
 
@@ -49,7 +50,10 @@ MDIContainer::MDIContainer(LGLOBAL& shared, Prompts& prompts, const QString& pro
     m_stage->setAutoFillBackground(true);
     m_stage->installEventFilter(this);
     m_menu->hide();
+    connect(m_menu, &LotoMenu::RecentFileChosen, this, &MDIContainer::OpenNamedFile);
     setCentralWidget(m_stage);
+    new FileDrop(
+        *this, [this] { return m_active; }, [this](const QString& path) { OpenDroppedFile(path); });
 }
 
 void MDIContainer::AddForm(FormName name, FormMaker maker)
@@ -124,6 +128,15 @@ void MDIContainer::OpenNamedFile(const QString& path)
     }
 }
 
+void MDIContainer::OpenDroppedFile(const QString& path)
+{
+    if (m_active == m_menu) {
+        OpenNamedFile(path);
+    } else {
+        m_active->OpenNamedFile(path); // it has said that it takes it
+    }
+}
+
 void MDIContainer::HideForm()
 {
     if (m_active != nullptr) {
@@ -142,6 +155,7 @@ void MDIContainer::BringToFront(WorkingForm* form)
     MoveForm(form, form->FrontPlace());
     form->show();
     form->raise();
+    FileChanged();
     if (form->focusWidget() != nullptr) {
         form->focusWidget()->setFocus();
     } else {
@@ -214,6 +228,12 @@ void MDIContainer::TellComesLater(const QString& what)
 void MDIContainer::SetCaption(const QString& caption)
 {
     setWindowTitle(caption);
+}
+
+void MDIContainer::FileChanged()
+{
+    // The title stays what the form has set: a desktop shows the file in its own place, if it has one.
+    setWindowFilePath(m_active == nullptr ? QString() : m_active->FilePath());
 }
 
 void MDIContainer::EndProgram()

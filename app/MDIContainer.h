@@ -45,6 +45,7 @@ public:
     void HideForm() override;
     void TellComesLater(const QString& what) override;
     void SetCaption(const QString& caption) override;
+    void FileChanged() override;
     void EndProgram() override;
 
 protected:
@@ -53,6 +54,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void OpenDroppedFile(const QString& path);
     WorkingForm* FindForm(FormName name);
     void BringToFront(WorkingForm* form);
     void StageResized();

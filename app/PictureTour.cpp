@@ -9,16 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QPalette DarkPalette()
-{
-    QPalette palette(QColor(0x4A, 0x4D, 0x52), QColor(0x35, 0x37, 0x3B));
-    palette.setColor(QPalette::Base, QColor(0x26, 0x28, 0x2B));
-    palette.setColor(QPalette::AlternateBase, QColor(0x2D, 0x2F, 0x33));
-    palette.setColor(QPalette::Highlight, QColor(0x2A, 0x6F, 0xB5));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    return palette;
-}
-
 /// Saves pictures until the first that cannot be saved.
 class Album
 {
@@ -101,6 +91,16 @@ void AddDialog(Album& album, const TourDialog& stop)
 }
 
 } // namespace
+
+QPalette DarkPalette()
+{
+    QPalette palette(QColor(0x4A, 0x4D, 0x52), QColor(0x35, 0x37, 0x3B));
+    palette.setColor(QPalette::Base, QColor(0x26, 0x28, 0x2B));
+    palette.setColor(QPalette::AlternateBase, QColor(0x2D, 0x2F, 0x33));
+    palette.setColor(QPalette::Highlight, QColor(0x2A, 0x6F, 0xB5));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
 
 Outcome TakePictures(MDIContainer& window, const Tour& tour, const QString& folder)
 {

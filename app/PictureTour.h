@@ -5,6 +5,7 @@
 #include "app/Outcome.h"
 
 #include <QDialog>
+#include <QPalette>
 #include <QString>
 
 #include <functional>
@@ -32,6 +33,9 @@ struct Tour {
     std::vector<TourStop> stops;
     std::vector<TourDialog> dialogs;
 };
+
+/// A dark palette as desktops have it.
+[[nodiscard]] QPalette DarkPalette();
 
 /// Walks through the forms and saves a picture of each: at the opening size, at 1280 x 800, at twice the
 /// density, and in a dark palette; then of each dialog, as it opens, at twice the density, and in the dark

@@ -35,6 +35,11 @@ public:
     /// Tells something that has no number in the message table.
     virtual void Notice(const QString& text) = 0;
 
+    /// Tells something that has no number in the message table and offers to do one thing about it.
+    /// @param deed  the caption of the button that takes the offer
+    /// @return whether the user takes it.
+    [[nodiscard]] virtual bool Offer(const QString& text, const QString& deed) = 0;
+
     /// Shows the hourglass pointer, or takes it away. Several calls with the same value are one.
     virtual void SetBusyPointer(bool busy) = 0;
 

@@ -3,6 +3,7 @@
 #include "app/TextPictures.h"
 
 #include <QColor>
+#include <QFont>
 
 #include <algorithm>
 
@@ -75,7 +76,12 @@ QVariant SetsModel::data(const QModelIndex& index, int role) const
         return QVariant::fromValue(Qt::AlignVCenter |
                                    (index.column() == NumberColumn ? Qt::AlignHCenter : Qt::AlignRight));
     case Qt::ForegroundRole:
-        return m_red && index.column() != NumberColumn ? QVariant(QColor(Qt::red)) : QVariant();
+        return IsRed(index) ? QVariant(QColor(Qt::red)) : QVariant();
+    case Qt::FontRole: { // for those who do not see red
+        QFont bold;
+        bold.setBold(true);
+        return IsRed(index) ? QVariant(bold) : QVariant();
+    }
     default:
         return {};
     }

@@ -23,7 +23,7 @@ public:
     void Fill(const SetTable& table, int sets);
     /// Empties the cells.
     void Clear();
-    /// Writes the numbers in red, or in the colour of all texts.
+    /// Writes the numbers in red and bold, or in the colour of all texts.
     void SetRed(bool red);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
@@ -33,6 +33,10 @@ public:
 
 private:
     [[nodiscard]] QString CellText(const QModelIndex& index) const;
+    [[nodiscard]] bool IsRed(const QModelIndex& index) const
+    {
+        return m_red && index.column() != NumberColumn;
+    }
 
     SetTable m_table{};
     int m_sets = 0; ///< shown

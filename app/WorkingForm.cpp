@@ -1,5 +1,7 @@
 #include "app/WorkingForm.h"
 
+#include "app/LotteryFileCommands.h"
+
 WorkingForm::WorkingForm(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QWidget* parent)
     : QWidget(parent), m_shared(shared), m_prompts(prompts), m_switcher(switcher),
       m_events(new FormEvents(shared, prompts, this))
@@ -17,6 +19,11 @@ Outcome WorkingForm::TakeRecovered(const RecoveredWork& work)
 QPoint WorkingForm::ResizedPlace(qint32 layoutSize)
 {
     return layoutSize < kLargeLayoutFrom ? QPoint(-60, -30) : QPoint(1200, 1000);
+}
+
+QString WorkingForm::FilePath() const
+{
+    return DatabaseFilePath(m_shared);
 }
 
 QPoint WorkingForm::FrontPlace() const

@@ -27,6 +27,16 @@ public:
     /// refuses. On failure the form is as before and the reason says what is wrong.
     [[nodiscard]] virtual Outcome TakeRecovered(const RecoveredWork& work);
 
+    /// Whether a file dropped on the form can be opened now, without harm to what the user is doing.
+    [[nodiscard]] virtual bool OpensDropped(const QString& path) const
+    {
+        Q_UNUSED(path)
+        return false;
+    }
+
+    /// The file that the form works on, with its folder as far as it is known; "" for none.
+    [[nodiscard]] virtual QString FilePath() const;
+
     /// Asked before the program ends while the form is shown: a form that holds what is not saved asks the
     /// user.
     /// @return false when the user wants to go back.

@@ -1,4 +1,5 @@
 #include "app/AMsgbox.h"
+#include "app/AccessibleButtons.h"
 #include "app/AllYesNo.h"
 #include "app/CallersConsole.h"
 #include "app/ChangeFnt.h"
@@ -14,6 +15,7 @@
 #include "app/Printing.h"
 #include "app/ProgramFolder.h"
 #include "app/Recovery.h"
+#include "app/ShownFocus.h"
 #include "database/Extract.h"
 #include "database/InRecNum.h"
 #include "database/LDbase.h"
@@ -94,6 +96,13 @@ CommandLine ReadCommandLine(const QStringList& arguments)
     line.folder = Absolute(parser.value(folder));
     line.tourFolder = Absolute(parser.value(tour));
     return line;
+}
+
+/// With the user's own settings, not in the program folder: it may be on a stick that goes from hand to hand.
+QString RecentFilesList()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+    return folder.isEmpty() ? QString() : folder + u"/recent-files"_s;
 }
 
 QString ChooseOwnFolder(const QString& asked)
@@ -240,9 +249,14 @@ int main(int argc, char* argv[])
     }
 
     const QApplication application(argc, argv);
+    InstallAccessibleButtons();
+    InstallShownFocus();
     QApplication::setDesktopFileName(QStringLiteral(QUILLABY_ID)); // so a desktop knows whose window it is
     const QString programFolder = ChooseOwnFolder(line.folder);
     LGLOBAL shared;
+    if (line.tourFolder.isEmpty()) { // a tour leaves no traces
+        shared.recentFilesList = RecentFilesList();
+    }
     DialogPrompts prompts(shared);
     MDIContainer window(shared, prompts, programFolder);
     prompts.SetMainWindow(&window);

@@ -1,6 +1,7 @@
 #include "invest/InvestmentFileCommands.h"
 
 #include "app/FileNames.h"
+#include "app/RecentFiles.h"
 #include "app/SafeFile.h"
 #include "app/WorkFingerprint.h"
 
@@ -31,6 +32,8 @@ void Remember(LGLOBAL& shared, const QString& path, const InvestmentTable& rows)
     const QFileInfo file(path);
     shared.investmentFileName = file.fileName();
     shared.statementOnDisk = {.folder = file.absolutePath(), .fingerprint = Fingerprint(rows)};
+    shared.statementPath = file.absoluteFilePath();
+    RememberFile(shared.recentFilesList, shared.statementPath);
 }
 
 /// Refused without a reason: the message itself says what is wrong with the name.

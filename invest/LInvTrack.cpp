@@ -1,5 +1,6 @@
 #include "invest/LInvTrack.h"
 
+#include "app/FileNames.h"
 #include "app/Printing.h"
 #include "app/ShortDate.h"
 #include "app/TextPictures.h"
@@ -228,6 +229,16 @@ Outcome LInvTrack::TakeRecovered(const RecoveredWork& work)
     return {};
 }
 
+bool LInvTrack::OpensDropped(const QString& path) const
+{
+    return IsStatementFileName(path);
+}
+
+QString LInvTrack::FilePath() const
+{
+    return Shared().investmentFileName.isEmpty() ? QString() : Shared().statementPath;
+}
+
 void LInvTrack::OpenFile()
 {
     TakeLoaded(OpenInvestmentFile(Shared(), Asking(), [this] { return MayBeReplaced(); }));
@@ -240,6 +251,7 @@ void LInvTrack::TakeLoaded(const InvestmentReading& loaded)
         return;
     }
     Take(*loaded.statement);
+    Switcher().FileChanged();
     m_changed = false;
     if (!loaded.isCalculated) {
         m_counted = CalculateStatement(loaded.statement->rows).value_or(*loaded.statement);
@@ -260,6 +272,7 @@ void LInvTrack::SaveFile()
         TellCannotCalculate();
     } else if (SaveInvestmentFile(Shared(), Asking(), *statement)) {
         Take(*statement);
+        Switcher().FileChanged();
         m_changed = false;
     }
 }

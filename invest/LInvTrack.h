@@ -28,6 +28,10 @@ public:
     /// or a cell in use.
     [[nodiscard]] bool MayClose() override;
 
+    /// A statement may be dropped: it comes with the same question as one that is opened.
+    [[nodiscard]] bool OpensDropped(const QString& path) const override;
+    [[nodiscard]] QString FilePath() const override;
+
     /// Opens a file without asking for it.
     void OpenNamedFile(const QString& path) override;
 

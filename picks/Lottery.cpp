@@ -12,6 +12,7 @@
 #include "ui_Lottery.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -36,14 +37,26 @@ QString NumberText(double value)
     return Format(value, u"##");
 }
 
-/// The font with blanks as narrow as it takes to make the line fit the width.
+/// The font with blanks as narrow as it takes to make the line fit the width, but not narrower than words can
+/// be told apart by; with letters as small as it takes then.
 QFont FittedByBlanks(QFont font, const QString& line, int width)
 {
+    constexpr double kNarrowest = 0.4; // of a blank
     const int needed = QFontMetrics(font).horizontalAdvance(line);
-    if (needed > width) {
-        font.setWordSpacing(-1);
-        const int gained = needed - QFontMetrics(font).horizontalAdvance(line);
-        font.setWordSpacing(-double(needed - width + 1) / std::max(gained, 1));
+    if (needed <= width) {
+        return font;
+    }
+    const double blank = QFontMetricsF(font).horizontalAdvance(u' ');
+    font.setWordSpacing(-1);
+    const int gained = needed - QFontMetrics(font).horizontalAdvance(line);
+    const double narrower =
+        std::min(double(needed - width + 1) / std::max(gained, 1), blank * (1 - kNarrowest));
+    font.setWordSpacing(-narrower);
+    const int still = QFontMetrics(font).horizontalAdvance(line);
+    if (still > width) {
+        const double smaller = double(width - 1) / still;
+        font.setWordSpacing(-narrower * smaller);
+        font.setPointSizeF(std::floor(font.pointSizeF() * smaller * 2) / 2); // sizes in between look uneven
     }
     return font;
 }

@@ -21,6 +21,7 @@ public:
     void PrintDocument(const PrintedDocument& document) override;
     void FileDirectory() override;
     void Notice(const QString& text) override;
+    [[nodiscard]] bool Offer(const QString& text, const QString& deed) override;
     void SetBusyPointer(bool busy) override;
 
     /// Answers to come: true for Yes.
@@ -29,11 +30,14 @@ public:
     std::deque<QString> files;
     /// Messages that may come; one that is not the next of these fails the test.
     std::deque<int> expectedMessages;
+    /// For a walk that is about looks alone: every message is as good as expected.
+    bool anythingGoes = false;
 
     QStringList shownTexts;   ///< the texts of all messages, in order
     QStringList shownReasons; ///< their reasons
     QStringList notices;
     QStringList askedTexts;
+    QStringList offers; ///< the texts of what was offered, and what could be done; answers has the answers
     std::vector<PrintedDocument> offered; ///< what could be looked at before each answer to a print question
     std::vector<PrintedDocument> printed;
     std::deque<qint16> fileDialogModes; ///< the modes the file dialog was opened under

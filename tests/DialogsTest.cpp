@@ -108,6 +108,30 @@ struct Answering {
     bool yes;
 };
 
+TEST_F(Dialogs, AnOfferIsTakenByItsButtonAndExitLeavesIt)
+{
+    const auto offered = [this](const QString& button) {
+        WhenModalOpens([&](QWidget* box) {
+            EXPECT_EQ(box->findChild<QPlainTextEdit*>(u"TextMsg"_s)->toPlainText(), u"It is gone."_s);
+            EXPECT_EQ(box->findChild<QPushButton*>(u"OfferButt"_s)->text(), u"&Remove"_s);
+            EXPECT_EQ(box->focusWidget()->objectName(), u"AMsgExit"_s);
+            QTest::mouseClick(box->findChild<QPushButton*>(button), Qt::LeftButton);
+        });
+        return m_prompts.Offer(u"It is gone."_s, u"&Remove"_s);
+    };
+    EXPECT_TRUE(offered(u"OfferButt"_s));
+    EXPECT_FALSE(offered(u"AMsgExit"_s));
+}
+
+TEST_F(Dialogs, AMessageOffersNothing)
+{
+    WhenModalOpens([](QWidget* box) {
+        EXPECT_TRUE(box->findChild<QPushButton*>(u"OfferButt"_s)->isHidden());
+        box->close();
+    });
+    m_prompts.Notice(u"It is gone."_s);
+}
+
 TEST_F(Dialogs, AQuestionIsAnsweredByItsButtonsAndAnUnansweredOneLosesNothing)
 {
     const auto click = [](const QString& name) {

@@ -1,3 +1,6 @@
+#include "app/AccessibleButtons.h"
+#include "app/ShownFocus.h"
+
 #include <QApplication>
 #include <QLocale>
 #include <gtest/gtest.h>
@@ -10,5 +13,7 @@ int main(int argc, char* argv[])
     testing::InitGoogleTest(&argc, argv);
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     const QApplication application(argc, argv);
+    InstallAccessibleButtons();
+    InstallShownFocus();
     return RUN_ALL_TESTS();
 }

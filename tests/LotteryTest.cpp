@@ -71,7 +71,13 @@ protected:
         }
         return true;
     }
-    bool IsRed() { return Grid().model()->index(0, 1).data(Qt::ForegroundRole) == QVariant(QColor(Qt::red)); }
+    bool IsRed()
+    {
+        const QModelIndex cell = Grid().model()->index(0, 1);
+        const bool red = cell.data(Qt::ForegroundRole) == QVariant(QColor(Qt::red));
+        EXPECT_EQ(qvariant_cast<QFont>(cell.data(Qt::FontRole)).bold(), red); // not by colour alone
+        return red;
+    }
     QString ShownForm() const
     {
         return m_window.ActiveForm() == nullptr ? QString() : m_window.ActiveForm()->objectName();

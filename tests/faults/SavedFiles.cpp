@@ -27,6 +27,7 @@ public:
     void PrintDocument(const PrintedDocument& /*document*/) override { told << u"a printout"_s; }
     void FileDirectory() override { m_shared.chosenPath = m_path; }
     void Notice(const QString& text) override { told << text; }
+    [[nodiscard]] bool Offer(const QString& /*text*/, const QString& /*deed*/) override { return false; }
     void SetBusyPointer(bool /*busy*/) override {}
 
     QStringList told;
