@@ -117,23 +117,6 @@ void ShowIcon()
     QApplication::setWindowIcon(icon);
 }
 
-/// Gives a window its icon when its first picture stands, which need not wait until the icons are read.
-class IconAfterFirstPicture : public QObject
-{
-public:
-    explicit IconAfterFirstPicture(QWidget& window) : QObject(&window) { window.installEventFilter(this); }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint) {
-            watched->removeEventFilter(this);
-            QTimer::singleShot(0, this, ShowIcon);
-        }
-        return QObject::eventFilter(watched, event);
-    }
-};
-
 std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContainer& window)
 {
     const auto message = [&] {
@@ -291,8 +274,9 @@ int main(int argc, char* argv[])
         Extract(shared, prompts, switcher, mainWindow).exec();
     });
     window.Start();
-    new IconAfterFirstPicture(window); // the window's
     window.show();
+    constexpr int kAfterTheFirstPicture = 100; // milliseconds: the picture need not wait until icons are read
+    QTimer::singleShot(kAfterTheFirstPicture, &window, ShowIcon);
     if (!line.tourFolder.isEmpty()) {
         return TakeTour(shared, prompts, window, line);
     }

@@ -42,6 +42,28 @@ void ShellSort(std::vector<Place>& places, int count)
     }
 }
 
+/// Puts into each row the record that its place names. Goes from row to row until it is back where it began,
+/// with one record in hand: a second table would cost more than the whole sort.
+void MoveToPlaces(std::vector<DrawRecord>& records, const std::vector<Place>& places, int count)
+{
+    const auto source = [&places](int row) { return places[static_cast<std::size_t>(row)].record; };
+    const auto at = [&records](int row) -> DrawRecord& { return records[static_cast<std::size_t>(row)]; };
+    std::vector<bool> done(places.size());
+    for (int first = 1; first <= count; ++first) {
+        if (done[static_cast<std::size_t>(first)] || source(first) == first) {
+            continue;
+        }
+        DrawRecord inHand = std::move(at(first));
+        int row = first;
+        for (; source(row) != first; row = source(row)) {
+            at(row) = std::move(at(source(row)));
+            done[static_cast<std::size_t>(row)] = true;
+        }
+        at(row) = std::move(inHand);
+        done[static_cast<std::size_t>(row)] = true;
+    }
+}
+
 /// @param toDelete  the record that was marked just now, 0 for none: it goes behind others that came with the
 /// mark
 int SortAndDropLast(DrawDatabase& database, const QLocale& locale, int toDelete)
@@ -60,18 +82,14 @@ int SortAndDropLast(DrawDatabase& database, const QLocale& locale, int toDelete)
     // The exchanges are made on the days alone and on the records once, at the end.
     ShellSort(places, count);
 
-    std::vector<DrawRecord> sorted(places.size());
+    MoveToPlaces(database.records, places, count);
     for (int row = 1; row <= count; ++row) {
-        const auto index = static_cast<std::size_t>(row);
-        const Place& place = places[index];
-        sorted[index] = std::move(database.records[static_cast<std::size_t>(place.record)]);
-        sorted[index].number = row;
+        DrawRecord& record = database.records[static_cast<std::size_t>(row)];
+        const Place& place = places[static_cast<std::size_t>(row)];
+        record.number = row;
         if (place.moved && place.day != kBeforeAnyDate) { // an exchanged record's date is stored as a date
-            sorted[index].date = CellDate(sorted[index].date, locale).value_or(QDate());
+            record.date = CellDate(record.date, locale).value_or(QDate());
         }
-    }
-    for (int row = 1; row <= count; ++row) {
-        database.records[static_cast<std::size_t>(row)] = std::move(sorted[static_cast<std::size_t>(row)]);
     }
     if (count > 0 && places.back().day == kAfterAnyDate) {
         database.records[static_cast<std::size_t>(count)] = {}; // no trace of the mark stays behind

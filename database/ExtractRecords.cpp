@@ -2,28 +2,28 @@
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
 void ExtractRecords(DrawDatabase& database, float low, float high)
 {
     const auto picks = static_cast<std::size_t>(database.Shape().picks);
-    std::vector<DrawRecord> extracted(kRecordRows);
     qint16 count = 0;
     for (int row = 1; row <= database.count; ++row) {
         const auto number = static_cast<float>(row);
         if (number < low || number > high) {
             continue;
         }
+        // In its own table: the place is never behind the row.
         DrawRecord& source = database.records[static_cast<std::size_t>(row)];
-        DrawRecord& target = extracted[static_cast<std::size_t>(++count)];
-        target.number = static_cast<int>(count);
-        target.date = std::move(source.date);
+        DrawRecord kept;
+        kept.number = static_cast<int>(++count);
+        kept.date = std::move(source.date);
         std::move(source.drawn.begin(), source.drawn.begin() + static_cast<std::ptrdiff_t>(picks),
-                  target.drawn.begin());
+                  kept.drawn.begin());
+        database.records[static_cast<std::size_t>(count)] = std::move(kept);
     }
-    database.records = std::move(extracted);
+    std::fill(database.records.begin() + count + 1, database.records.end(), DrawRecord{});
     database.count = count;
     database.title = u"Extracted"_s;
     database.fileName = u"Extract.lto"_s;

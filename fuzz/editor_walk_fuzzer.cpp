@@ -387,8 +387,10 @@ private:
     /// Up to the limit in one step, which no walk would reach otherwise.
     void Fill()
     {
-        if (m_fills == 2) {
-            return; // enough for emptying a full database in between
+        // One letter of 256, since walks on so many records take fifty times as long; and twice at most, for
+        // emptying a full database in between.
+        if (m_steps.Byte() != 'F' || m_fills == 2) {
+            return;
         }
         ++m_fills;
         const int target = std::min(1995 + m_steps.Byte() % 8, 2001);

@@ -439,7 +439,7 @@ TEST(Val, ReadsFiguresAloneAsItReadsThemBeforeAPoint)
 {
     for (const QString& text : {u"0"_s, u"7"_s, u"007"_s, u"49"_s, u"2001"_s, u"999999999999999"_s,
                                 u"9007199254740993"_s, u"12345678901234567890"_s}) {
-        EXPECT_EQ(Val(text), Val(text + u".0")) << text.toStdString();
+        EXPECT_EQ(Val(text), Val(text + u".0"_s)) << text.toStdString();
     }
 }
 
