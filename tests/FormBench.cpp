@@ -30,6 +30,8 @@ FormBench::FormBench()
     m_window.AddDialog(FormName::Extract, [this](FormSwitcher& switcher, QWidget* mainWindow) {
         Extract(m_shared, m_prompts, switcher, mainWindow).exec();
     });
+    m_help = new HelpDesk(m_shared, m_prompts, &m_window.Menu());
+    m_window.SetHelp([this] { m_help->OpenContents(); });
 }
 
 FormBench::~FormBench()
