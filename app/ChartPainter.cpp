@@ -295,7 +295,10 @@ private:
                                                                                : QSizeF(digit, length);
             const qreal middle = l.bars[i].center().x() + l.depth.width() / 2;
             const qreal bottom = l.bars[i].top() - l.depth.height() - std::round(Gap() / 2);
-            l.values.emplace_back(QPointF(middle - size.width() / 2, bottom - size.height()), size);
+            // Not on the axis: the first value of many narrow blocks would touch it.
+            const qreal left =
+                std::max(middle - size.width() / 2, l.plot.left() + std::max(1.0, std::round(m_size / 10.0)));
+            l.values.emplace_back(QPointF(left, bottom - size.height()), size);
         }
     }
 

@@ -31,6 +31,9 @@ enum FileDialogMode : qint16 {
 /// What the editor's 'New' row is for.
 enum class EditMode : qint16 { Normal = 0, Correct = 1, Insert = 2, Delete = 3, Sort = 4 };
 
+/// Who has opened the graph, and gets the window back from it.
+enum GraphCaller : qint16 { kGraphFromMenu = 1, kGraphFromEditor = 2 };
+
 /// The one state that all forms share. main.cpp makes it, every form gets it by reference; tests make their
 /// own.
 struct LGLOBAL {
@@ -59,7 +62,7 @@ struct LGLOBAL {
     // Places and pages
     qint32 layoutSize = 6810; ///< 8670 when the main window is taller than 8,500 twips, else 6810
     qint16 linesPerPage = 53; ///< 53, or 56 while the 11-point printer font is chosen
-    qint16 graphCaller = 0;   ///< 1 = main menu, 2 = database editor
+    qint16 graphCaller = 0;   ///< a GraphCaller; 0 before the first graph
     float extractLow = 0;     ///< record-number bounds of the extract
     float extractHigh = 0;
 

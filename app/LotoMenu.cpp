@@ -17,7 +17,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kNoRecordsToWorkWith = 44;
-constexpr qint16 kGraphFromMenu = 1;
 
 } // namespace
 

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int kFrame = 12; ///< pixels around the page
+constexpr int kMargin = 12; ///< pixels around the page
 
 } // namespace
 
@@ -41,18 +41,18 @@ QSizeF PageView::SizeAt(qreal zoom) const
 qreal PageView::ZoomForPage(QSize room) const
 {
     const QSizeF page = SizeAt(1);
-    return std::max(0.05, std::min((room.width() - 2 * kFrame) / page.width(),
-                                   (room.height() - 2 * kFrame) / page.height()));
+    return std::max(0.05, std::min((room.width() - 2 * kMargin) / page.width(),
+                                   (room.height() - 2 * kMargin) / page.height()));
 }
 
 qreal PageView::ZoomForWidth(int width) const
 {
-    return std::max(0.05, (width - 2 * kFrame) / SizeAt(1).width());
+    return std::max(0.05, (width - 2 * kMargin) / SizeAt(1).width());
 }
 
 QSize PageView::sizeHint() const
 {
-    return SizeAt(m_zoom).toSize() + QSize(2 * kFrame, 2 * kFrame);
+    return SizeAt(m_zoom).toSize() + QSize(2 * kMargin, 2 * kMargin);
 }
 
 void PageView::paintEvent(QPaintEvent* /*event*/)

@@ -8,6 +8,9 @@
 
 #include <functional>
 
+/// The message of a form that has nothing to print yet.
+inline constexpr int kNoDataToPrint = 1;
+
 /// Writes the lines of one report.
 using WriteReport = std::function<void(Printout&)>;
 

@@ -13,7 +13,7 @@ MessageArguments Arguments(const LGLOBAL& shared)
     arguments.arg1 = shared.messageArg1;
     arguments.arg2 = shared.messageArg2;
     arguments.recordCount = shared.database.count;
-    arguments.picks = shared.database.columns - 2;
+    arguments.picks = shared.database.Shape().picks; // as the forms count them, whatever a file says
     arguments.today = ShortDate(shared.today(), shared.locale);
     arguments.databaseFileName = shared.database.fileName;
     arguments.investmentFileName = shared.investmentFileName;

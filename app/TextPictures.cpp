@@ -66,12 +66,12 @@ Digits DigitsOf(double magnitude)
 
 Digits DigitsOf(Currency amount)
 {
-    constexpr qsizetype kDecimals = 4;
+    constexpr qsizetype kPlaces = 4;
     const auto count = static_cast<quint64>(amount.TenThousandths());
     Digits result;
     result.digits =
-        QByteArray::number(amount < Currency() ? 0 - count : count).rightJustified(kDecimals + 1, '0');
-    result.wholeDigits = result.digits.size() - kDecimals;
+        QByteArray::number(amount < Currency() ? 0 - count : count).rightJustified(kPlaces + 1, '0');
+    result.wholeDigits = result.digits.size() - kPlaces;
     return result;
 }
 

@@ -107,11 +107,13 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
         });
         return std::make_unique<PrintPreview>(pages, UsualPaper(shared.locale), &window);
     };
-    const auto graphPreview = [&] {
+    const auto graphPreview = [&](ChartInk ink, BarStyle style) {
         const LotteryShape shape = shared.database.Shape();
         const NumberTable counts = CountNumbers(shared.database, CountMode::TimesDrawn);
-        const BarChart chart = StatisticsChart(
-            counts, shape.highest, {.records = shared.database.count, .title = shared.database.title});
+        BarChart chart = StatisticsChart(counts, shape.highest,
+                                         {.records = shared.database.count, .title = shared.database.title});
+        chart.ink = ink;
+        chart.style = style;
         return std::make_unique<PrintPreview>(ChartDocument(chart), UsualPaper(shared.locale), &window);
     };
     const auto records = [&] { return std::make_unique<InRecNum>(shared, &window); };
@@ -133,7 +135,10 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
         {u"AMsgbox"_s, message, {}},
         {u"AllYesNo"_s, question, {}},
         {u"PrintPreview"_s, preview, {}},
-        {u"PrintPreview-graph"_s, graphPreview, {}},
+        {u"PrintPreview-graph"_s, [=] { return graphPreview(ChartInk::Color, BarStyle::Flat); }, {}},
+        {u"PrintPreview-graph-bw"_s,
+         [=] { return graphPreview(ChartInk::BlackAndWhite, BarStyle::ThreeDimensional); },
+         {}},
         {u"InRecNum"_s, records, {}},
         {u"InRecNum-insert"_s, records, u"CorInsDel1"_s},
         {u"InRecNum-delete"_s, records, u"CorInsDel2"_s},

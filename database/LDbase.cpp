@@ -35,7 +35,6 @@ constexpr int kDeleteAllFirst = 40;
 constexpr int kRecordDoesNotExist = 41;
 constexpr int kMostRecords = 45;
 constexpr int kGoBackAndSave = 3;
-constexpr qint16 kGraphFromEditor = 2;
 
 QString FirstStatisticsLine()
 {

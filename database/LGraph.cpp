@@ -10,7 +10,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint16 kHighestFirst = 0;
-constexpr qint16 kGraphFromEditor = 2;
 
 const QString kToSorted = u"&Show Sorted"_s;
 const QString kToUnsorted = u"&Show Unsorted"_s;

@@ -70,6 +70,9 @@ int GameSets(double typed, int entryForms)
 bool FillHcdSets(RandomSource& random, const HcdBasis& basis, int sets, SetTable& table)
 {
     table = {};
+    if (basis.counts.Total() > kMostPicks) { // a set has no places for more
+        return false;
+    }
     const auto& [hot, cold, due] = basis.counts;
     const auto fill = [&](HcdList list, int first, int count) {
         return FillFromList(random, basis.candidates, list, first, count, sets, table);

@@ -15,7 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kNoDataToPrint = 1;
 constexpr int kNotEnoughData = 7;
 constexpr int kFromOneToTen = 27;
 constexpr int kNoRecords = 31;
@@ -71,7 +70,13 @@ void LHotCold::SetUpInputs()
         InputRules rules;
         rules.click = InputRules::Click::SelectsTextEachTime;
         rules.next = [next] { return next; };
-        rules.leave = std::move(leave);
+        rules.leave = [this, leave = std::move(leave)](InputBox& left,
+                                                       bool edited) -> std::optional<Message> {
+            if (m_ui->ShuffleStatus->IsRunning()) { // a screen reader moves the focus without any event
+                return std::nullopt;                // a calculation checks the boxes anyway
+            }
+            return leave(left, edited);
+        };
         box->Follow(Shared(), rules);
     };
     const LeaveRule count = [this](InputBox& box, bool edited) { return LeaveCount(box, edited); };
@@ -217,7 +222,9 @@ void LHotCold::MakeCGraph()
 
 void LHotCold::MakeDGraph()
 {
-    if (!HasTooFewNumbers(m_analysis)) {
+    // Only the cold graph makes the check. A latest draw that brought nearly all numbers leaves few that are
+    // due; these are shown, and the others at 0.
+    if (!HasTooFewNumbers(m_analysis) || !m_notEnoughData) {
         m_ui->DueGraph3->SetChart(HcdChart(HcdList::Due, m_analysis.RankedNumbers));
     }
 }
@@ -324,9 +331,15 @@ void LHotCold::ShowSets()
 
 void LHotCold::ShowHelp(bool opens)
 {
+    if (m_ui->TextHCD->hasFocus()) {
+        m_ui->HelpHCD->setFocus(Qt::OtherFocusReason);
+    }
     m_ui->TextHCD->setVisible(opens);
     m_ui->GridArea->setVisible(!opens);
     m_ui->HelpHCD->setText(opens ? u"Close &Help"_s : u"Quick &Help"_s);
+    if (opens) {
+        m_ui->TextHCD->setFocus(Qt::OtherFocusReason); // so that the keys scroll it
+    }
 }
 
 void LHotCold::Print()

@@ -14,6 +14,14 @@ constexpr int kSteps = 2 * kRounds;
 
 } // namespace
 
+QString ShufflingWord(qint64 step)
+{
+    if (step < 0 || step >= kSteps) {
+        return {};
+    }
+    return step % 2 == 0 ? u"Shuffling"_s : u"Picking"_s;
+}
+
 ShufflingLabel::ShufflingLabel(QWidget* parent) : QLabel(parent), m_stepLength(kStepLength)
 {
     m_timer.setSingleShot(true);
@@ -50,10 +58,11 @@ void ShufflingLabel::ShowWord()
     // How far the run has come is read from the clock, so it takes no longer on a slow machine.
     const qint64 passed = m_clock.elapsed();
     const qint64 step = passed / m_stepLength;
-    if (step >= kSteps) {
+    const QString word = ShufflingWord(step);
+    if (word.isEmpty()) {
         Finish();
         return;
     }
-    setText(step % 2 == 0 ? u"Shuffling"_s : u"Picking"_s);
+    setText(word);
     m_timer.start(int((step + 1) * m_stepLength - passed));
 }

@@ -4,6 +4,10 @@
 #include <QLabel>
 #include <QTimer>
 
+/// The word of a step, counted from 0: "Shuffling" and "Picking" in turn, five times over; "" before and
+/// after.
+[[nodiscard]] QString ShufflingWord(qint64 step);
+
 /// The line that says "Shuffling" and "Picking" in turn while sets are made, and nothing at other times.
 ///
 /// A timer changes its word: the window stays painted, and between two words the processor has nothing to do.
@@ -25,6 +29,7 @@ public:
 
     /// How long a word stands, in milliseconds; a fifth of a second if not set. Tests take less.
     void SetStepLength(int milliseconds) { m_stepLength = milliseconds; }
+    [[nodiscard]] int StepLength() const { return m_stepLength; }
 
 Q_SIGNALS:
     /// The run is over and the line is empty.

@@ -20,7 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kNoDataToPrint = 1;
 constexpr int kCannotCalculate = 26;
 constexpr int kRowLimit = 46;
 constexpr int kGoBackAndSave = 5;

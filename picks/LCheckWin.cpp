@@ -16,7 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kNoDataToPrint = 1;
 constexpr int kMustBeFromTo = 17;
 constexpr int kFewestGridRows = 20;
 
@@ -240,8 +239,14 @@ void LCheckWin::PrintMatches()
 
 void LCheckWin::ShowHelp(bool opens)
 {
+    if (m_ui->CTextBox->hasFocus()) {
+        m_ui->CHelp->setFocus(Qt::OtherFocusReason);
+    }
     m_ui->CTextBox->setVisible(opens);
     m_ui->CHelp->setText(opens ? u"Close &Help"_s : u"Quick &Help"_s);
+    if (opens) {
+        m_ui->CTextBox->setFocus(Qt::OtherFocusReason); // so that the keys scroll it
+    }
 }
 
 void LCheckWin::Exit()

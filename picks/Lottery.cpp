@@ -18,7 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kNoDataToPrint = 1;
 constexpr int kTooManyForTwentyRows = 4;
 constexpr int kNotEnoughData = 7;
 constexpr int kMustBeFrom = 17;

@@ -85,6 +85,7 @@ void ExpectSound(const BarChart& chart, const ChartLayout& layout)
     for (size_t i = 0; i < layout.values.size(); ++i) {
         EXPECT_FALSE(layout.values[i].intersects(layout.title)) << "value and title " << i;
         EXPECT_LT(layout.values[i].bottom(), layout.bars[i].top()) << "a value stands above its bar";
+        EXPECT_GT(layout.values[i].left(), layout.plot.left()) << "no value touches the axis";
     }
     for (size_t i = 0; i < layout.labels.size(); ++i) {
         EXPECT_GT(layout.labels[i].top(), layout.plot.bottom());

@@ -283,6 +283,25 @@ TEST(HcdAnalysis, TenNumbersAreEnough)
     EXPECT_EQ(CandidatesOf(analysis, HcdList::Hot).front(), (std::pair{1, 1}));
 }
 
+TEST(HcdAnalysis, SixtyNumbersDrawnEquallyOftenAreRankedAsByASecondImplementation)
+{
+    std::vector<std::vector<int>> draws;
+    for (int number = 60; number >= 1; --number) {
+        draws.push_back({number});
+    }
+    const DrawDatabase database = Database(60, draws);
+    for (const HcdList list : {HcdList::Hot, HcdList::Cold}) {
+        HcdAnalysis analysis;
+        TallyLastDraws(analysis, database, database.count);
+        RankNumbers(analysis, 60, list);
+        EXPECT_EQ(analysis.distinctNumbers, 60);
+        const auto rows = Ranked(TimesInLast(draws, 60, 60), 60);
+        const int first = list == HcdList::Cold ? 51 : 1;
+        EXPECT_EQ(CandidatesOf(analysis, list),
+                  (std::vector<std::pair<int, int>>(rows.begin() + first, rows.begin() + first + 10)));
+    }
+}
+
 TEST(HcdAnalysis, AHighestNumberBelowTenNeverMakesAList)
 {
     for (int highest = 1; highest < 10; ++highest) {
@@ -335,6 +354,7 @@ TEST(HcdAnalysis, EqualsAPlainSecondImplementationOnRandomHistories)
             const Counts values = due ? DrawsSince(draws, highest) : TimesInLast(draws, last, highest);
             ASSERT_EQ(ValuesOf(analysis.NumberTally, highest), values);
 
+            const auto before = CandidatesOf(analysis, list);
             RankNumbers(analysis, highest, list);
             auto rows = Ranked(values, highest);
             int distinct = 0;
@@ -343,6 +363,7 @@ TEST(HcdAnalysis, EqualsAPlainSecondImplementationOnRandomHistories)
             }
             ASSERT_EQ(analysis.distinctNumbers, distinct);
             if (distinct < 10) {
+                ASSERT_EQ(CandidatesOf(analysis, list), before) << "they stay as they were";
                 continue;
             }
             std::vector<std::pair<int, int>> expected;

@@ -461,7 +461,7 @@ TEST_F(HotCold, WithTooFewNumbersTheGraphsKeepWhatTheyShowed)
     EXPECT_EQ(Graph(u"DueGraph3"_s), due);
 }
 
-TEST_F(HotCold, WithTooFewNumbersUndrawnTheDueGraphStaysEmptyWithoutAWord)
+TEST_F(HotCold, WithTooFewNumbersUndrawnTheDueGraphShowsTheOthersAtNothing)
 {
     // Of eleven numbers the last draw brought two, so nine are due.
     DrawDatabase& database = m_shared.database;
@@ -472,7 +472,12 @@ TEST_F(HotCold, WithTooFewNumbersUndrawnTheDueGraphStaysEmptyWithoutAWord)
     }
     Open();
     EXPECT_EQ(Graph(u"HotGraph1"_s).bars.size(), 10U);
-    EXPECT_EQ(Graph(u"DueGraph3"_s), EmptyHcdChart(HcdList::Due));
+    const BarChart due = Graph(u"DueGraph3"_s);
+    ASSERT_EQ(due.bars.size(), 10U);
+    EXPECT_EQ(due.bars.front(), (ChartBar{.label = u"4"_s, .value = 9}));
+    EXPECT_EQ(due.bars.at(8).value, 1) << due.bars.at(8).label.toStdString();
+    EXPECT_EQ(due.bars.back().value, 0);
+    EXPECT_NE(due.bars.back().label, u"0"_s) << "a number that came in the latest draw";
     m_prompts.expectedMessages = {7}; // no due number can be picked
     Click(u"CalcHCD"_s);
     Settle();
@@ -862,6 +867,82 @@ TEST_F(HotCold, SetsMadeBeforeAreGoneWhenTheNumbersBecomeTooFew)
     EXPECT_EQ(m_shared.hcdPicksMade, 0);
 }
 
+TEST_F(HotCold, NoDueNumberOfAnotherLotteryIsPickedAfterItOpensAgain)
+{
+    FillDatabase(60);
+    Open();
+    Click(u"CalcHCD"_s); // there were due numbers
+    Click(u"ExitHotCold"_s);
+    DrawDatabase& database = m_shared.database;
+    database = {};
+    database.columns = 4;
+    database.highest = 11;
+    for (int record = 1; record <= 12; ++record) { // nine numbers are due, too few for a list
+        database.Append(QDate(2020, 1, 1), {record % 11 + 1, (record + 1) % 11 + 1});
+    }
+    Click(u"ShowHCD"_s);
+    Settle();
+    PutCounts(0, 0, 1);
+    m_prompts.expectedMessages = {7};
+    Click(u"CalcHCD"_s);
+    Settle();
+    EXPECT_EQ(LastMessage(), u"Not enough Data"_s);
+    EXPECT_EQ(m_shared.PickTable, SetTable{});
+}
+
+TEST_F(HotCold, ARefusedCountEmptiesTheGridToo)
+{
+    FillDatabase(60);
+    Open();
+    Click(u"CalcHCD"_s);
+    EXPECT_FALSE(GridIsEmpty());
+    m_prompts.expectedMessages = {50};
+    Enter(u"InHot"_s, u"7"_s);
+    Settle();
+    EXPECT_TRUE(GridIsEmpty());
+}
+
+TEST_F(HotCold, TheFocusMovedByAssistiveTechnologyWhileItPicksChecksNothing)
+{
+    FillDatabase(60);
+    Open();
+    BeginSlowly();
+    Put(u"InNumPlays"_s, u"0"_s);
+    Put(u"InLastDraw"_s, u"1"_s);
+    for (const QString& box : {u"InNumPlays"_s, u"InLastDraw"_s, u"InHot"_s}) {
+        Box(box).setFocus();
+    }
+    Find<QPushButton>(u"CalcHCD"_s).setFocus();
+    Settle();
+    EXPECT_EQ(m_prompts.shownTexts, QStringList());
+    EXPECT_TRUE(Status().IsRunning());
+    Status().Finish();
+    EXPECT_FALSE(GridIsEmpty());
+}
+
+TEST_F(HotCold, NumbersStandInTheMiddleOfTheirCells)
+{
+    FillDatabase(60);
+    Open();
+    Click(u"CalcHCD"_s);
+    EXPECT_TRUE(Grid().horizontalHeader()->defaultAlignment().testFlag(Qt::AlignHCenter));
+    const QModelIndex number = Grid().model()->index(0, 1);
+    const QRect cell = Grid().visualRect(number).adjusted(2, 2, -2, -2); // without the grid's lines
+    const QImage picture = Grid().viewport()->grab(cell).toImage();
+    int first = picture.width();
+    int last = 0;
+    for (int x = 0; x < picture.width(); ++x) {
+        for (int y = 0; y < picture.height(); ++y) {
+            if (picture.pixelColor(x, y) != picture.pixelColor(0, 0)) {
+                first = std::min(first, x);
+                last = std::max(last, x);
+            }
+        }
+    }
+    ASSERT_LE(first, last);
+    EXPECT_NEAR((first + last) / 2.0, picture.width() / 2.0, 2.5 * picture.devicePixelRatio());
+}
+
 TEST_F(HotCold, FiveThousandRejectionsBringTheMessageAndLeaveTheGridEmpty)
 {
     FillDatabase(60);
@@ -899,6 +980,11 @@ TEST_F(HotCold, HoldsAShapeFromAFileToItsLimits)
     EXPECT_EQ(Box(u"InHot"_s).text(), u"4"_s);
     Click(u"CalcHCD"_s);
     EXPECT_EQ(Row(0).size(), 11);
+    PutCounts(6, 6, 6);
+    m_prompts.expectedMessages = {50};
+    Click(u"CalcHCD"_s);
+    Settle();
+    EXPECT_TRUE(LastMessage().contains(u"which is  10"_s)) << LastMessage().toStdString();
 }
 
 TEST_F(HotCold, AFullDatabaseIsAnalysed)
@@ -1024,6 +1110,31 @@ TEST_F(HotCold, QuickHelpOpensAndClosesAndACalculationClosesIt)
     EXPECT_EQ(Find<QPushButton>(u"HelpHCD"_s).text(), u"Quick &Help"_s);
 }
 
+TEST_F(HotCold, QuickHelpIsScrolledByTheKeysAndHandsTheFocusBack)
+{
+    FillDatabase(60);
+    Open();
+    auto& help = Find<QPlainTextEdit>(u"TextHCD"_s);
+    Find<QPushButton>(u"HelpHCD"_s).setFocus();
+    QTest::keyClick(m_window.focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(FocusName(), u"TextHCD"_s);
+    Settle();
+    EXPECT_EQ(help.verticalScrollBar()->value(), 0);
+    QTest::keyClick(m_window.focusWidget(), Qt::Key_PageDown);
+    EXPECT_GT(help.verticalScrollBar()->value(), 0);
+    Click(u"HelpHCD"_s);
+    EXPECT_EQ(FocusName(), u"HelpHCD"_s);
+    BeginSlowly();
+    Click(u"HelpHCD"_s); // takes no click while it picks
+    Status().Finish();
+    Click(u"HelpHCD"_s);
+    Find<QPushButton>(u"CalcHCD"_s).click();
+    help.setFocus(); // as assistive technology can
+    Status().Finish();
+    EXPECT_TRUE(help.isHidden());
+    EXPECT_EQ(FocusName(), u"HelpHCD"_s);
+}
+
 TEST_F(HotCold, QuickHelpSaysWhatTheGraphsShowAndHowToGoOn)
 {
     FillDatabase(60);
@@ -1115,6 +1226,17 @@ TEST_F(HotCold, ShufflesAndPicksBeforeTheSetsAreShown)
     EXPECT_EQ(TextOf(u"ShuffleStatus"_s), QString());
     EXPECT_FALSE(m_prompts.busy);
     EXPECT_FALSE(GridIsEmpty());
+}
+
+TEST(Shuffling, SaysItsTwoWordsFiveTimesOverAFifthOfASecondEach)
+{
+    for (int step = 0; step < 10; step += 2) {
+        EXPECT_EQ(ShufflingWord(step), u"Shuffling"_s);
+        EXPECT_EQ(ShufflingWord(step + 1), u"Picking"_s);
+    }
+    EXPECT_EQ(ShufflingWord(10), QString());
+    EXPECT_EQ(ShufflingWord(-1), QString());
+    EXPECT_EQ(ShufflingLabel().StepLength(), 200);
 }
 
 TEST_F(HotCold, EscapeShowsTheSetsAtOnce)

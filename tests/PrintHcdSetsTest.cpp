@@ -69,6 +69,8 @@ TEST(PrintHcdSets, ANumberStandsAtFiveTimesItsPlace)
         EXPECT_EQ(line.at(size_t(place) - 1).column, place * 5);
     }
     EXPECT_EQ(PageLines(document, 1).at(3), u"Picked from: Last 2001 Draws"_s);
+    EXPECT_EQ(PageLines(document, 1).at(9), QString(50, u'_')) << "as long as the sets are wide";
+    EXPECT_EQ(PageLines(Report(52, {1, 0, 0}, table, 1, 1), 1).at(9), QString(5, u'_'));
 }
 
 TEST(PrintHcdSets, TenSetsOfTenFitOnePage)
