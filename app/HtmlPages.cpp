@@ -15,13 +15,13 @@ namespace {
 constexpr qreal kDotsPerInch = 96;
 constexpr qreal kScale = 720 / kDotsPerInch;
 constexpr QSizeF kArea(6.7 * kDotsPerInch, 9.4 * kDotsPerInch);
-constexpr qreal kTopMargin = 0.7 * kDotsPerInch;
+constexpr qreal kTopSpace = 0.7 * kDotsPerInch;
 constexpr qreal kFooterGap = 0.2 * kDotsPerInch;
 constexpr qreal kFooterHeight = 0.25 * kDotsPerInch;
-constexpr qreal kBottomMargin = 0.4 * kDotsPerInch;
+constexpr qreal kBottomSpace = 0.4 * kDotsPerInch;
 /// What all of it needs, margins included.
-constexpr QSizeF kSheet(kArea.width() + 2 * kTopMargin,
-                        kTopMargin + kArea.height() + kFooterGap + kFooterHeight + kBottomMargin);
+constexpr QSizeF kSheet(kArea.width() + 2 * kTopSpace,
+                        kTopSpace + kArea.height() + kFooterGap + kFooterHeight + kBottomSpace);
 
 QFont TextFont(int pixels)
 {
@@ -71,7 +71,7 @@ void PaintHtmlPage(QPainter& painter, const QString& html, int page, const QStri
     const qreal fit = std::min({qreal(1), paper.width() / kSheet.width(), paper.height() / kSheet.height()});
     painter.save();
     painter.scale(kScale * fit, kScale * fit);
-    painter.translate((paper.width() / fit - kArea.width()) / 2, kTopMargin);
+    painter.translate((paper.width() / fit - kArea.width()) / 2, kTopSpace);
 
     const QRectF footer(0, kArea.height() + kFooterGap, kArea.width(), kFooterHeight);
     painter.setFont(TextFont(kFooterSize));

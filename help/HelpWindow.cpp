@@ -223,6 +223,10 @@ void HelpWindow::TakeOpeningSize()
     const QRect room = screen()->availableGeometry();
     const QSize wanted(kColumns * fontMetrics().averageCharWidth(), kLines * fontMetrics().lineSpacing());
     resize(wanted.expandedTo(minimumSizeHint()).boundedTo(room.size() * 9 / 10));
-    // At the right, where it covers least of the main window, which opens at the left.
-    move(room.right() + 1 - frameSize().width() - room.width() / 40, room.top() + room.height() / 20);
+    // In the corner where it covers least of the main window, which opens in the opposite one. The frame of
+    // the window is not known yet.
+    const QSize distance(room.width() / 40, room.height() / 15);
+    const QPoint corner =
+        room.bottomRight() - QPoint(width() + distance.width(), height() + distance.height());
+    move(std::max(room.left(), corner.x()), std::max(room.top(), corner.y()));
 }

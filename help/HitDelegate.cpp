@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int kMargin = 5;
+constexpr int kRowMargin = 5;
 constexpr int kWrapped = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
 constexpr int kAnyHeight = 10000;
 
@@ -36,7 +36,7 @@ void HitDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, c
     const bool selected = row.state.testFlag(QStyle::State_Selected);
     const QPalette::ColorGroup group =
         row.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
-    QRect room = row.rect.adjusted(kMargin, kMargin, -kMargin, -kMargin);
+    QRect room = row.rect.adjusted(kRowMargin, kRowMargin, -kRowMargin, -kRowMargin);
     painter->save();
     painter->setPen(row.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text));
     painter->setFont(TitleFont(row.font));
@@ -50,9 +50,9 @@ void HitDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, c
 QSize HitDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     const auto* view = qobject_cast<const QListView*>(option.widget);
-    const int width = (view == nullptr ? option.rect.width() : view->viewport()->width()) - 2 * kMargin;
+    const int width = (view == nullptr ? option.rect.width() : view->viewport()->width()) - 2 * kRowMargin;
     const QRect snippet = option.fontMetrics.boundingRect(QRect(0, 0, width, kAnyHeight), kWrapped,
                                                           index.data(kSnippetRole).toString());
     const int title = TitleRect(option.font, index.data().toString(), width).height();
-    return {width, title + snippet.height() + 2 * kMargin};
+    return {width, title + snippet.height() + 2 * kRowMargin};
 }

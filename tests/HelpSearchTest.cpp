@@ -86,7 +86,7 @@ TEST(HelpSearch, TheSnippetComesFromTheParagraphWithMostOfTheWordsAndNotFromTheH
     book.pages = {Page(u"Bonus numbers"_s, u"Bonus numbers\nThe numbers of a draw.\nA bonus.\n"
                                            u"Type the bonus number here.\n"_s)};
     EXPECT_EQ(SearchHelp(book, {u"bonus"_s, u"number"_s})[0].snippet,
-              u"The numbers of a draw. A bonus. Type the bonus number here."_s);
+              u"... numbers of a draw. A bonus. Type the bonus number here."_s);
     book.pages[0].text =
         u"Bonus numbers\n"_s + u"The numbers of a draw.\n"_s.repeated(9) + u"Type the bonus number here.\n"_s;
     EXPECT_TRUE(
