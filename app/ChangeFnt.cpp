@@ -100,10 +100,7 @@ void ChangeFnt::SaveAndLeave()
     settings.entryForms = number(m_ui->InNumLines, kMostForms, settings.entryForms);
     settings.userName = m_ui->InMyName->text();
     settings.currencySymbol = m_ui->InSy->text();
-    if (const Outcome written = WritePersonalSettings(m_shared); !written.ok) {
-        m_prompts.Notice(u"The settings could not be saved to disk: "_s + written.reason +
-                         u"\nThey stay in effect until the program ends."_s);
-    }
+    SavePersonalSettings(m_shared, m_prompts);
     m_switcher.SetCaption(u" Quillaby Menu"_s);
     accept();
 }

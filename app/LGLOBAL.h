@@ -2,6 +2,7 @@
 
 #include "app/AppSettings.h"
 #include "app/DrawDatabase.h"
+#include "app/EditMode.h"
 #include "app/HcdList.h"
 #include "app/InvestmentStatement.h"
 #include "app/RandomSource.h"
@@ -27,9 +28,6 @@ enum FileDialogMode : qint16 {
     kSavePdfFile = 6,
     kFileDialogCancelled = 9,
 };
-
-/// What the editor's 'New' row is for.
-enum class EditMode : qint16 { Normal = 0, Correct = 1, Insert = 2, Delete = 3, Sort = 4 };
 
 /// Who has opened the graph, and gets the window back from it.
 enum GraphCaller : qint16 { kGraphFromMenu = 1, kGraphFromEditor = 2 };

@@ -42,3 +42,17 @@ QString ChooseProgramFolder(const ProgramFolderChoice& choice, const QStringList
     }
     return folder.path();
 }
+
+FoundSamples FindSamples(const QString& executableFolder, const QString& folder, const QStringList& own)
+{
+    const QDir installed(QDir::cleanPath(QDir(executableFolder).absoluteFilePath(folder)));
+    if (!installed.exists()) {
+        return {.files = own, .isInstalled = false};
+    }
+    FoundSamples samples{.files = {}, .isInstalled = true};
+    for (const QString& sample : own) {
+        const QString there = PlaceOf(sample, installed);
+        samples.files << (QFileInfo(there).isFile() ? there : sample);
+    }
+    return samples;
+}

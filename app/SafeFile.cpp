@@ -11,6 +11,8 @@
 
 #ifdef Q_OS_WIN
 #include <io.h>
+
+#include <cstring>
 #else
 #include <fcntl.h>
 #include <unistd.h>
@@ -20,9 +22,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// @param error  as in errno
 QString SystemReason(int error)
 {
+#ifdef Q_OS_WIN
+    return QString::fromLocal8Bit(
+        std::strerror(error)); // qt_error_string takes the system's own numbers there
+#else
     return qt_error_string(error);
+#endif
 }
 
 /// Forces what was written to an open file onto the disk.
@@ -117,7 +125,8 @@ Outcome WriteAndCommit(const QString& path, const QByteArray& bytes)
 {
     // setDirectWriteFallback stays off: it would write over the old file in place.
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
+    // Unbuffered, since a flush that gets only a part of the buffer onto the disk has no reason to give.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         return Outcome::Failure(file.errorString());
     }
     // The new file has the permissions of the old one, and none at all when those could not be asked for.

@@ -23,6 +23,14 @@ Outcome WritePersonalSettings(const LGLOBAL& shared)
     return written.ok ? SaveFileBytes(SettingsPath(shared), bytes) : written;
 }
 
+void SavePersonalSettings(const LGLOBAL& shared, Prompts& prompts)
+{
+    if (const Outcome written = WritePersonalSettings(shared); !written.ok) {
+        prompts.Notice(u"The settings could not be saved to disk: "_s + written.reason +
+                       u"\nThey stay in effect until the program ends."_s);
+    }
+}
+
 void ReadPersonalSettings(LGLOBAL& shared)
 {
     constexpr qint16 kLinesPerPage = 53;

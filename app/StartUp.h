@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/LGLOBAL.h"
+#include "app/Prompts.h"
 
 #include <QString>
 
@@ -10,6 +11,9 @@ void InitialiseSharedState(LGLOBAL& shared, const QString& programFolder);
 
 /// Writes the personal settings to "Personal.Lot" of the program folder, in the place of the old file.
 [[nodiscard]] Outcome WritePersonalSettings(const LGLOBAL& shared);
+
+/// The same, and tells the user when it could not be done, and why.
+void SavePersonalSettings(const LGLOBAL& shared, Prompts& prompts);
 
 /// Reads "Personal.Lot" of the program folder. Whatever is wrong with the file, defaults stand in silently.
 void ReadPersonalSettings(LGLOBAL& shared);

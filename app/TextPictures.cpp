@@ -50,6 +50,11 @@ constexpr int kCertainDigits = 15;
 /// lies below it.
 Digits DigitsOf(double magnitude)
 {
+    constexpr double kBeyondCertain = 1e15;
+    if (magnitude < kBeyondCertain && magnitude == std::floor(magnitude)) { // nearly everything that is shown
+        const QByteArray whole = QByteArray::number(static_cast<qint64>(magnitude));
+        return {whole, whole.size()};
+    }
     const QByteArray scientific = QByteArray::number(magnitude, 'e', kCertainDigits - 1);
     const qsizetype mark = scientific.indexOf('e');
     Digits result;
@@ -137,6 +142,19 @@ bool IsDigit(QChar ch)
     return ch >= u'0' && ch <= u'9';
 }
 
+/// The value of a text of nothing but figures, so few that a double holds it; empty for other texts.
+std::optional<qint64> PlainWholeNumber(QStringView text)
+{
+    if (text.isEmpty() || text.size() > kCertainDigits || !std::all_of(text.begin(), text.end(), IsDigit)) {
+        return std::nullopt;
+    }
+    qint64 value = 0;
+    for (const QChar digit : text) {
+        value = value * 10 + (digit.unicode() - u'0');
+    }
+    return value;
+}
+
 /// The double nearest to a decimal number, the largest one for all beyond it.
 double NearestDouble(const QByteArray& number)
 {
@@ -217,6 +235,9 @@ QByteArray LeadingNumber(QStringView text)
 
 double Val(QStringView text)
 {
+    if (const std::optional<qint64> whole = PlainWholeNumber(text)) {
+        return static_cast<double>(*whole);
+    }
     const QByteArray number = LeadingNumber(text);
     return number.isEmpty() ? 0 : NearestDouble(number);
 }

@@ -1,9 +1,11 @@
 #include "app/AMsgbox.h"
 #include "app/AllYesNo.h"
+#include "app/CallersConsole.h"
 #include "app/ChangeFnt.h"
 #include "app/DatabaseReport.h"
 #include "app/DialogPrompts.h"
 #include "app/FileNames.h"
+#include "app/FileOpener.h"
 #include "app/LGLOBAL.h"
 #include "app/MDIContainer.h"
 #include "app/PictureTour.h"
@@ -25,6 +27,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QIcon>
 #include <QProxyStyle>
 #include <QStandardPaths>
 #include <QTimer>
@@ -52,6 +55,7 @@ QString Absolute(const QString& path)
 
 void Print(FILE* stream, const QString& text)
 {
+    UseCallersConsole();
     std::fputs(text.toLocal8Bit().constData(), stream);
 }
 
@@ -61,11 +65,11 @@ CommandLine ReadCommandLine(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         u"Keeps the draws of a lottery, counts them and makes sets of numbers."_s);
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption help({u"h"_s, u"help"_s}, u"Show this help."_s);
+    const QCommandLineOption version({u"v"_s, u"version"_s}, u"Show the version."_s);
     const QCommandLineOption folder(u"folder"_s, u"Keep settings and samples in <dir>."_s, u"dir"_s);
     const QCommandLineOption tour(u"tour"_s, u"Save a picture of each form in <dir> and end."_s, u"dir"_s);
-    parser.addOptions({folder, tour});
+    parser.addOptions({help, version, folder, tour});
     parser.addPositionalArgument(u"file"_s, u"The lottery database or investment statement to open."_s,
                                  u"[file]"_s);
 
@@ -77,7 +81,8 @@ CommandLine ReadCommandLine(const QStringList& arguments)
         Print(stderr, u"Only one file can be opened at a time.\n"_s);
         line.exitCode = 2;
     } else if (parser.isSet(help)) {
-        Print(stdout, parser.helpText());
+        // Before there is an application, nobody has told the parser the program's name.
+        Print(stdout, parser.helpText().replace(u"<executable_name>"_s, u"quillaby"_s));
         line.exitCode = 0;
     } else if (parser.isSet(version)) {
         Print(stdout, u"Quillaby System v3.6 (%1)\n"_s.arg(QCoreApplication::applicationVersion()));
@@ -88,6 +93,44 @@ CommandLine ReadCommandLine(const QStringList& arguments)
     line.tourFolder = Absolute(parser.value(tour));
     return line;
 }
+
+QString ChooseOwnFolder(const QString& asked)
+{
+    const QString executableFolder = QCoreApplication::applicationDirPath();
+    const FoundSamples samples = FindSamples(executableFolder, QStringLiteral(QUILLABY_SAMPLES_FROM_PROGRAM),
+                                             {kSample, kSampleStatement});
+    return ChooseProgramFolder(
+        {.executableFolder = samples.isInstalled ? QString() : executableFolder,
+         .dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
+         .asked = asked},
+        samples.files);
+}
+
+void ShowIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128}) {
+        icon.addFile(u":/icons/quillaby-%1.png"_s.arg(size), {size, size});
+    }
+    QApplication::setWindowIcon(icon);
+}
+
+/// Gives a window its icon when its first picture stands, which need not wait until the icons are read.
+class IconAfterFirstPicture : public QObject
+{
+public:
+    explicit IconAfterFirstPicture(QWidget& window) : QObject(&window) { window.installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            watched->removeEventFilter(this);
+            QTimer::singleShot(0, this, ShowIcon);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
 
 std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContainer& window)
 {
@@ -223,11 +266,8 @@ int main(int argc, char* argv[])
     }
 
     const QApplication application(argc, argv);
-    const QString programFolder =
-        ChooseProgramFolder({.executableFolder = QCoreApplication::applicationDirPath(),
-                             .dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
-                             .asked = line.folder},
-                            {kSample, kSampleStatement});
+    QApplication::setDesktopFileName(QStringLiteral(QUILLABY_ID)); // so a desktop knows whose window it is
+    const QString programFolder = ChooseOwnFolder(line.folder);
     LGLOBAL shared;
     DialogPrompts prompts(shared);
     MDIContainer window(shared, prompts, programFolder);
@@ -262,10 +302,12 @@ int main(int argc, char* argv[])
     auto* help = new HelpDesk(shared, prompts, &window.Menu()); // which owns it
     window.SetHelp([help] { help->OpenContents(); });
     window.Start();
+    new IconAfterFirstPicture(window); // the window's
     window.show();
     if (!line.tourFolder.isEmpty()) {
         return TakeTour(shared, prompts, window, line);
     }
+    const FileOpener opener([&](const QString& path) { window.OpenNamedFile(path); });
     if (!line.file.isEmpty()) {
         QTimer::singleShot(0, &window, [&] { window.OpenNamedFile(line.file); });
     }

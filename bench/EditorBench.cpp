@@ -5,14 +5,20 @@
 #include "bench/PaintWatch.h"
 #include "database/LDbase.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QCheckBox>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <chrono>
+#include <memory>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
@@ -74,6 +80,15 @@ void AddTime(benchmark::State& state, Clock::time_point start)
     state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
 }
 
+/// From what one types in an evening to the limit.
+void Grow(benchmark::internal::Benchmark* one)
+{
+    for (const int records : {10, 100, 500, 1000, 2001}) {
+        one->Arg(records);
+    }
+    one->ArgName("records")->UseManualTime()->Unit(benchmark::kMillisecond);
+}
+
 /// A grid alone in a window of the same size, each number copied into an item of its own.
 void ShowPlainGrid(benchmark::State& state)
 {
@@ -103,12 +118,7 @@ void ShowPlainGrid(benchmark::State& state)
         AddTime(state, start);
     }
 }
-BENCHMARK(ShowPlainGrid)
-    ->Arg(200)
-    ->Arg(2000)
-    ->ArgName("records")
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(ShowPlainGrid)->Apply(Grow);
 
 /// From the name of the file to the painted editor, which is made for it.
 void OpenFileFirst(benchmark::State& state)
@@ -127,12 +137,7 @@ void OpenFileFirst(benchmark::State& state)
         }
     }
 }
-BENCHMARK(OpenFileFirst)
-    ->Arg(200)
-    ->Arg(2000)
-    ->ArgName("records")
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(OpenFileFirst)->Apply(Grow);
 
 /// The same with an editor that was open before.
 void OpenFileAgain(benchmark::State& state)
@@ -153,12 +158,7 @@ void OpenFileAgain(benchmark::State& state)
         AddTime(state, start);
     }
 }
-BENCHMARK(OpenFileAgain)
-    ->Arg(200)
-    ->Arg(2000)
-    ->ArgName("records")
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(OpenFileAgain)->Apply(Grow);
 
 /// From the press of "Add Record", with a draw typed in, to the repainted editor. The records are one fewer
 /// than named before it.
@@ -187,6 +187,113 @@ void AddRecord(benchmark::State& state)
         }
     }
 }
-BENCHMARK(AddRecord)->Arg(200)->Arg(2000)->ArgName("records")->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(AddRecord)->Apply(Grow);
+
+/// The editor on made-up records, and the record dialog answered as a user answers it.
+struct EditorOnRecords {
+    explicit EditorOnRecords(const benchmark::State& state)
+        : whole(MadeLottery(static_cast<int>(state.range(0)), kPicks, kHighest)), program(folder.path())
+    {
+        ShowWhole();
+    }
+
+    /// All records are there again.
+    void ShowWhole()
+    {
+        program.shared.database = whole;
+        program.window.ShowForm(FormName::LDbase);
+        if (!painted) {
+            painted = std::make_unique<PaintWatch>(*program.Find<QTableView>(u"DGrid1"_s).viewport());
+        }
+        painted->WaitForPaint();
+    }
+
+    /// "Correct Record", the option of that index, that record, and Accept.
+    /// @return when Accept was pressed
+    Clock::time_point Choose(int option, int record)
+    {
+        Clock::time_point pressed;
+        QTimer::singleShot(0, &program.window, [&] {
+            const QWidget* dialog = QApplication::activeModalWidget();
+            dialog->findChild<QRadioButton*>(u"CorInsDel%1"_s.arg(option))->click();
+            if (auto* box = dialog->findChild<QLineEdit*>(u"CurVal"_s); box->isEnabled()) {
+                box->setText(QString::number(record));
+            }
+            auto* accept = dialog->findChild<QPushButton*>(u"Accept"_s);
+            painted->Forget();
+            pressed = Clock::now();
+            accept->click();
+        });
+        program.Find<QPushButton>(u"DCorrectRec"_s).click();
+        return pressed;
+    }
+
+    QTemporaryDir folder;
+    DrawDatabase whole;
+    RunningProgram program;
+    std::unique_ptr<PaintWatch> painted;
+};
+
+/// From Accept in the record dialog to the repainted editor without the record, the one in the middle.
+void DeleteRecordInEditor(benchmark::State& state)
+{
+    EditorOnRecords editor(state);
+    while (state.KeepRunning()) {
+        editor.ShowWhole();
+        const Clock::time_point start = editor.Choose(2, editor.whole.count / 2);
+        editor.painted->WaitForPaint();
+        AddTime(state, start);
+        if (editor.program.shared.database.count != editor.whole.count - 1) {
+            state.SkipWithError("the record was not deleted");
+        }
+    }
+}
+BENCHMARK(DeleteRecordInEditor)->Apply(Grow);
+
+/// From Accept in the record dialog to the repainted editor. The records stand from the last to the first.
+void SortRecordsInEditor(benchmark::State& state)
+{
+    EditorOnRecords editor(state);
+    std::reverse(editor.whole.records.begin() + 1, editor.whole.records.begin() + 1 + editor.whole.count);
+    while (state.KeepRunning()) {
+        editor.ShowWhole();
+        const Clock::time_point start = editor.Choose(3, 0);
+        editor.painted->WaitForPaint();
+        AddTime(state, start);
+        if (editor.program.shared.database.records.at(1) == editor.whole.records.at(1)) {
+            state.SkipWithError("the records were not sorted");
+        }
+    }
+}
+BENCHMARK(SortRecordsInEditor)->Apply(Grow);
+
+/// From the press of "Add Record" under a correction to the repainted editor.
+void CorrectRecordInEditor(benchmark::State& state)
+{
+    EditorOnRecords editor(state);
+    auto& number = editor.program.Find<InputBox>(u"DYourNumIn0"_s);
+    auto& add = editor.program.Find<QPushButton>(u"DCalc"_s);
+    auto& duplicates = editor.program.Find<QCheckBox>(u"Duponoff"_s);
+    const int record = editor.whole.count / 2;
+    while (state.KeepRunning()) {
+        editor.ShowWhole();
+        duplicates.click();
+        editor.Choose(0, record);
+        number.setText(u"49"_s);
+        QCoreApplication::processEvents();
+
+        editor.painted->Forget();
+        const Clock::time_point start = Clock::now();
+        add.click();
+        editor.painted->WaitForPaint();
+        AddTime(state, start);
+        if (!CellHolds(
+                editor.program.shared.database.records.at(static_cast<std::size_t>(record)).drawn.front(),
+                kHighest)) {
+            state.SkipWithError("the record was not corrected");
+        }
+    }
+}
+BENCHMARK(CorrectRecordInEditor)->Apply(Grow);
 
 } // namespace

@@ -20,6 +20,9 @@ public:
         m_painted = false;
     }
 
+    /// Paintings before this do not count.
+    void Forget() { m_painted = false; }
+
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         m_painted = m_painted || event->type() == QEvent::Paint;

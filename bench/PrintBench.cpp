@@ -52,9 +52,12 @@ void PrintDatabaseToPdf(benchmark::State& state)
 }
 BENCHMARK(PrintDatabaseToPdf)
     ->Args({10, kStandardFont})
-    ->Args({200, kStandardFont})
+    ->Args({100, kStandardFont})
+    ->Args({500, kStandardFont})
+    ->Args({1000, kStandardFont})
     ->Args({2001, kStandardFont})
     ->Args({2001, kCourierNewFont})
+    ->ArgNames({"records", "font"})
     ->Unit(benchmark::kMillisecond);
 
 /// The same lines as padded text in the toolkit's own text document.

@@ -73,8 +73,11 @@ void CheckWinners(benchmark::State& state)
     }
 }
 BENCHMARK(CheckWinners)
-    ->Arg(200)
-    ->Arg(2000)
+    ->Arg(10)
+    ->Arg(100)
+    ->Arg(500)
+    ->Arg(1000)
+    ->Arg(2001)
     ->ArgName("records")
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);

@@ -8,8 +8,7 @@
 #include "database/DateSort.h"
 #include "database/EditorHelp.h"
 #include "database/InRecNum.h"
-#include "database/NewRow.h"
-#include "database/NextDrawDate.h"
+#include "database/RecordTasks.h"
 #include "database/TopNumbers.h"
 #include "ui_LDbase.h"
 
@@ -22,17 +21,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kNoDataToGraph = 2;
-constexpr int kNewNumberIsZero = 6;
 constexpr int kNoRecordToCorrect = 18;
 constexpr int kCannotSort = 23;
 constexpr int kFromOneToTen = 27;
 constexpr int kFromOneToSixty = 28;
 constexpr int kNotAProperDate = 30;
-constexpr int kNoRecordToAdd = 36;
-constexpr int kMendedNumberIsZero = 38;
-constexpr int kDuplicateNumbers = 37;
 constexpr int kDeleteAllFirst = 40;
-constexpr int kRecordDoesNotExist = 41;
 constexpr int kMostRecords = 45;
 constexpr int kGoBackAndSave = 3;
 
@@ -236,14 +230,8 @@ void LDbase::ShowDrawDays()
 
 void LDbase::BuildRecordsGrid()
 {
-    DrawDatabase& database = Shared().database;
-    if (database.count <= 0) { // the boxes give a database without records its shape; records keep theirs
-        database.columns = ToInt16(Val(m_ui->NumCol->text()) + 2).value_or(kRecordCells);
-        database.highest = ToInt16(Val(m_ui->HighNum->text())).value_or(kMostNumbers);
-    }
-    const LotteryShape shape = database.Shape();
-    database.columns = static_cast<qint16>(shape.picks + 2);
-    database.highest = static_cast<qint16>(shape.highest);
+    TakeShape(Shared().database, Val(m_ui->NumCol->text()), Val(m_ui->HighNum->text()));
+    const LotteryShape shape = Shared().database.Shape();
     ShowShape();
 
     m_records.Build();
@@ -314,20 +302,8 @@ void LDbase::MakInvisible()
 
 void LDbase::AdvanceDate()
 {
-    DrawDatabase& database = Shared().database;
-    const std::optional<QDate> last =
-        database.count > 0
-            ? CellDate(database.records.at(static_cast<std::size_t>(database.count)).date, Shared().locale)
-            : std::nullopt;
-    if (last) {
-        NewDate = NextDrawDate(*last, database.CheckedDays());
-    } else {
-        NewDate = Shared().today();
-        if (database.count == 0) {
-            database.CheckDay(WeekdayOf(NewDate), true);
-            ShowDrawDays();
-        }
-    }
+    NewDate = DateOfNewRow(Shared().database, Shared().today(), Shared().locale);
+    ShowDrawDays(); // an empty database draws on today's weekday from now on
     m_ui->InDate->setText(ShortDate(NewDate, Shared().locale));
 }
 
@@ -351,10 +327,7 @@ QStringList LDbase::NumberTexts() const
 std::optional<Message> LDbase::LeaveDate(InputBox& box)
 {
     const QString typed = box.text();
-    std::optional<QDate> date = ParseShortDate(typed, Shared().locale);
-    if (date == DeletionMark()) {
-        date.reset(); // a draw that carried the mark would be dropped by the next sort
-    }
+    const std::optional<QDate> date = ParseDrawDate(typed, Shared().locale);
     NewDate = date.value_or(NewDate);
     box.setText(ShortDate(NewDate, Shared().locale));
     // A click empties the box: leaving it so is no mistake.
@@ -385,43 +358,51 @@ std::optional<Message> LDbase::LeaveShapeBox(InputBox& box, bool edited, int hig
 
 void LDbase::AddRecord()
 {
-    const QStringList boxes = NumberTexts();
-    if (RowIsEmpty(boxes)) {
-        Show(Shared(), Asking(), {.number = kNoRecordToAdd});
-        return;
-    }
-    if (!AllowDuplicates && CountDuplicatePairs(boxes) > 0) {
-        Show(Shared(), Asking(), {.number = kDuplicateNumbers});
-        return;
-    }
-    if (Shared().editMode == EditMode::Correct) {
-        ApplyCorrection();
-        return;
-    }
     if (Shared().editMode == EditMode::Insert) {
         InsertRec();
-        return;
+    } else {
+        TakeRow(Shared().editMode);
     }
-    // Only a new record sets the mark, and before the row's own checks: asking once too often loses nothing.
-    Shared().database.modified = 1;
-    AddNewRow();
 }
 
-void LDbase::AddNewRow()
+void LDbase::InsertRec()
 {
-    DrawDatabase& database = Shared().database;
-    const QStringList boxes = NumberTexts();
-    if (IsFull(database)) {
-        Show(Shared(), Asking(), {.number = kMostRecords});
-        return;
-    }
-    if (const std::optional<EntryFault> fault = CheckNumbers(boxes, database.highest, kNewNumberIsZero)) {
-        Show(Shared(), Asking(), {.number = fault->message, .arg1 = fault->arg1});
-        return;
+    TakeRow(EditMode::Insert);
+}
+
+void LDbase::TakeRow(EditMode task)
+{
+    const TypedRow row{NumberTexts(), NewDate, AllowDuplicates};
+    const RowCheck check = CheckRow(Shared().database, task, row, Shared().locale);
+    if (check.fault) {
+        ShowFault(*check.fault);
+        if (check.fault->message == kNotAProperDate) {
+            m_ui->InDate->setFocus();
+        }
+        if (check.endsTask) {
+            FinishTask();
+        }
+        return; // a correction or insertion stays open otherwise
     }
     Asking().SetBusyPointer(true);
-    RebuildWhenFewRowsAreSpare();
-    database.Append(NewDate, NumbersIn(boxes));
+    if (task != EditMode::Correct) {
+        RebuildWhenFewRowsAreSpare();
+    }
+    EnterRow(Shared().database, task, Shared().SelectedRecord, row);
+    if (task == EditMode::Normal) {
+        ShowNewRecord();
+    } else {
+        FinishTask();
+    }
+}
+
+void LDbase::ShowFault(const EntryFault& fault)
+{
+    Show(Shared(), Asking(), {.number = fault.message, .arg1 = fault.arg1});
+}
+
+void LDbase::ShowNewRecord()
+{
     FillRecordsGrid();
     AdvanceDate();
     EmptyNumberBoxes();
@@ -444,10 +425,7 @@ void LDbase::DeleteAll()
     if (Ask(Shared(), Asking(), kGoBackAndSave)) {
         return;
     }
-    DrawDatabase& database = Shared().database;
-    const DrawDayTable drawDays = database.drawDays;
-    database.Empty();
-    database.drawDays = drawDays; // the lottery goes on drawing on its days
+    DeleteAllRecords(Shared().database);
     Shared().NumberStats = {};
     Shared().sortedNumberStats = {};
     Shared().topNumbersText = {};
@@ -493,9 +471,10 @@ void LDbase::CorrectRecord()
     if (shared.SelectedRecord == 0) {
         return;
     }
-    if (shared.SelectedRecord > shared.database.count) {
+    if (const std::optional<EntryFault> fault =
+            CheckTask(shared.database, shared.editMode, shared.SelectedRecord)) {
         EndTask();
-        Show(Shared(), Asking(), {.number = kRecordDoesNotExist});
+        ShowFault(*fault);
         return;
     }
     switch (shared.editMode) {
@@ -520,79 +499,25 @@ void LDbase::CorrectRecord()
 void LDbase::BeginCorrection()
 {
     const qint16 number = Shared().SelectedRecord;
-    const DrawRecord& record = Shared().database.records.at(static_cast<std::size_t>(number));
+    const TypedRow row = RowOfRecord(Shared().database, number, Shared().locale);
     MakInvisible();
     m_ui->InNew->setText(QString::number(number));
     // A record whose date cannot be read shows an empty box, which stays so until a date is typed.
-    NewDate = CellDate(record.date, Shared().locale).value_or(QDate());
+    NewDate = row.date;
     m_ui->InDate->setText(ShortDate(NewDate, Shared().locale));
     for (std::size_t i = 0; i < DYourNumIn.size(); ++i) {
-        DYourNumIn.at(i)->setText(Format(CellText(record.drawn.at(i)), u"##"));
+        DYourNumIn.at(i)->setText(row.boxes.value(static_cast<qsizetype>(i)));
     }
     DYourNumIn.front()->setFocus();
 }
 
 void LDbase::BeginInsertion()
 {
-    if (IsFull(Shared().database)) {
-        EndTask();
-        Show(Shared(), Asking(), {.number = kMostRecords});
-        return;
-    }
     MakInvisible();
     m_ui->InNew->setText(u"Insert"_s);
     NewDate = QDate();
     m_ui->InDate->clear();
     m_ui->InDate->setFocus();
-}
-
-bool LDbase::RowIsRefused()
-{
-    const std::optional<EntryFault> fault =
-        CheckNumbers(NumberTexts(), Shared().database.highest, kMendedNumberIsZero);
-    if (fault) {
-        Show(Shared(), Asking(), {.number = fault->message, .arg1 = fault->arg1});
-        return true;
-    }
-    if (!NewDate.isValid()) {
-        Show(Shared(), Asking(), {.number = kNotAProperDate});
-        m_ui->InDate->setFocus();
-        return true;
-    }
-    return false;
-}
-
-bool LDbase::DateIsRefused()
-{
-    const std::optional<EntryFault> fault =
-        CheckNotAfterLastRecord(Shared().database, NewDate, Shared().locale);
-    if (fault) {
-        Show(Shared(), Asking(), {.number = fault->message, .arg1 = fault->arg1});
-    }
-    return fault.has_value();
-}
-
-void LDbase::ApplyCorrection()
-{
-    if (RowIsRefused()) {
-        return; // the correction stays open
-    }
-    if (!DateIsRefused()) {
-        OverwriteRecord(Shared().database, Shared().SelectedRecord, NewDate, NumbersIn(NumberTexts()));
-    }
-    FinishRow();
-}
-
-void LDbase::InsertRec()
-{
-    if (RowIsRefused()) {
-        return; // the insertion stays open
-    }
-    if (!DateIsRefused()) {
-        RebuildWhenFewRowsAreSpare();
-        Shared().database.Append(NewDate, NumbersIn(NumberTexts()));
-    }
-    FinishRow();
 }
 
 void LDbase::DeleteRec()
@@ -603,7 +528,7 @@ void LDbase::DeleteRec()
     ShowAgain(unreadable);
 }
 
-void LDbase::FinishRow()
+void LDbase::FinishTask()
 {
     // Also after a date that was refused: the row is given up and the editor is back to normal.
     EndTask();

@@ -2,6 +2,7 @@
 
 #include "app/WorkingForm.h"
 #include "database/CountsModel.h"
+#include "database/NewRow.h"
 #include "database/RecordsModel.h"
 
 #include <QCheckBox>
@@ -58,17 +59,16 @@ private:
                                                        const std::function<int()>& current);
 
     void AddRecord();
-    void AddNewRow();
+    void TakeRow(EditMode task);
+    void ShowFault(const EntryFault& fault);
+    void ShowNewRecord();
     void DeleteAll();
     void SwitchCount();
     void ShowHelp(bool opens);
     void CorrectRecord();
     void BeginCorrection();
     void BeginInsertion();
-    void ApplyCorrection();
-    [[nodiscard]] bool RowIsRefused();
-    [[nodiscard]] bool DateIsRefused();
-    void FinishRow();
+    void FinishTask();
     void EndTask();
     void SortAndShow();
     void ShowAgain(int unreadable);

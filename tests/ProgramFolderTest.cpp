@@ -142,6 +142,36 @@ TEST_F(ProgramFolder, AFolderThatCannotBeMadeIsStillTheAnswer)
     EXPECT_EQ(BytesOf(Path(u"samples/Sample.inv"_s)), "the sample");
 }
 
+TEST_F(ProgramFolder, AnInstalledProgramTakesTheUsersDataFolderEvenWhenItCouldWriteBesideItself)
+{
+    const FoundSamples found = FindSamples(Path(u"bin"_s), u"../samples"_s, {u":/samples/Sample.Lto"_s});
+    EXPECT_TRUE(found.isInstalled);
+    EXPECT_EQ(found.files, QStringList{Path(u"samples/Sample.Lto"_s)});
+    EXPECT_EQ(ChooseProgramFolder({found.isInstalled ? QString() : Path(u"bin"_s), Path(u"data"_s), {}},
+                                  found.files),
+              Path(u"data"_s));
+    EXPECT_EQ(BytesOf(Path(u"data/Sample.Lto"_s)), "the sample");
+    EXPECT_EQ(NamesIn(Path(u"bin"_s)), QStringList());
+}
+
+TEST_F(ProgramFolder, ASampleThatIsNotInstalledIsTheProgramsOwn)
+{
+    ASSERT_TRUE(QFile::remove(Path(u"samples/Sample.inv"_s)));
+    ASSERT_TRUE(QDir(Path(u"samples"_s)).mkdir(u"Other.inv"_s));
+    const QStringList own{u":/own/Sample.Lto"_s, u":/own/Sample.inv"_s, u":/own/Other.inv"_s};
+    const FoundSamples found = FindSamples(Path(u"bin"_s), u"../samples"_s, own);
+    EXPECT_TRUE(found.isInstalled);
+    EXPECT_EQ(found.files, QStringList({Path(u"samples/Sample.Lto"_s), own[1], own[2]}));
+}
+
+TEST_F(ProgramFolder, WithoutTheFolderOfAnInstallationTheProgramIsNotInstalled)
+{
+    const QStringList own{u":/own/Sample.Lto"_s, u":/own/Sample.inv"_s};
+    const FoundSamples found = FindSamples(Path(u"bin"_s), u"../share/quillaby-system/samples"_s, own);
+    EXPECT_FALSE(found.isInstalled);
+    EXPECT_EQ(found.files, own);
+}
+
 #ifdef Q_OS_UNIX
 
 TEST_F(ProgramFolder, AnExecutablesFolderThatCannotBeWrittenIsNotTaken)

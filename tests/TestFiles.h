@@ -10,6 +10,7 @@
 
 #ifdef Q_OS_UNIX
 #include <grp.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #endif

@@ -84,6 +84,18 @@ TEST(TextPictures, WholeNumbersAreWrittenUnderEveryPicture)
                    {1000, u"###,,###.00"_s, u"1,000.00"_s}});
 }
 
+TEST(TextPictures, AWholeNumberIsWrittenAsTheNumbersThatRoundToIt)
+{
+    for (int number = 0; number <= 12000; ++number) {
+        const QString whole = Format(number, u"####,,##0.00");
+        ASSERT_EQ(whole, Format(number + 0.001, u"####,,##0.00")) << number; // these go the longer way
+        ASSERT_EQ(Format(number, u"##"), Format(number + 0.25, u"##")) << number;
+        ASSERT_EQ(Format(-number, u"####"), Format(-number - 0.25, u"####")) << number;
+    }
+    EXPECT_EQ(Format(999999999999999.0, u"##"), u"999999999999999"_s);
+    EXPECT_EQ(Format(1e15, u"##"), u"1000000000000000"_s);
+}
+
 TEST(TextPictures, MoreDigitsThanThePictureHasAreAllWritten)
 {
     ExpectWritten({{123, u"##"_s, u"123"_s},
@@ -420,6 +432,14 @@ TEST(Val, ReadsTheLeadingNumberOfAText)
     };
     for (const Read& row : rows) {
         EXPECT_EQ(Val(row.text), row.value) << testing::PrintToString(row.text);
+    }
+}
+
+TEST(Val, ReadsFiguresAloneAsItReadsThemBeforeAPoint)
+{
+    for (const QString& text : {u"0"_s, u"7"_s, u"007"_s, u"49"_s, u"2001"_s, u"999999999999999"_s,
+                                u"9007199254740993"_s, u"12345678901234567890"_s}) {
+        EXPECT_EQ(Val(text), Val(text + u".0")) << text.toStdString();
     }
 }
 

@@ -1,10 +1,13 @@
 #!/usr/bin/env bash
-# Breaks the system under the program's saving routine and checks that the file is always whole: it holds the
-# old content or the new, to the last byte, and a save that did not work does not say that it did.
+# Breaks the system under the program's save commands and checks that the file is always whole: it holds the
+# old content or the new, to the last byte, and a save that did not work does not say that it did. So for the
+# lottery, the settings and the statement.
 #
-#   save_faults.sh full-disk PROBE    saves to a disk without room
+#   save_faults.sh full-disk PROBE    saves to a disk without room, and to one that is read-only
 #   save_faults.sh calls PROBE        lets every system call of a save fail, and kills the program at every one
-#   save_faults.sh kills PROBE        kills a program that saves all the time, a hundred times
+#
+# The calls of the settings and of the statement are those of the lottery, so that only their small files are
+# gone through and only one way of making the new file, unless QUILLABY_FAULTS=all is in the environment.
 #
 # PROBE is the program built from save_probe.cpp. Exit status: 0 all held, 1 something did not, 77 this machine
 # cannot run the test.
@@ -15,6 +18,7 @@ export ASAN_OPTIONS="detect_leaks=0:${ASAN_OPTIONS:-}" # the leak checker cannot
 
 what=${1:?which test}
 probe=${2:?which program}
+everything=${QUILLABY_FAULTS:-}
 failures=0
 checks=0
 work=$(mktemp -d)
@@ -36,32 +40,43 @@ finish() {
     exit 1
 }
 
+# take KIND: the kind of file that is saved from now on, and how it is called.
+take() {
+    kind=$1
+    case $kind in
+    lottery) name=Mine.Lto ;;
+    settings) name=Personal.Lot ;;
+    statement) name=Mine.inv ;;
+    esac
+}
+
 # seed_of FILE SIZE: the seed of the content the file holds, "none" when it is not whole.
 seed_of() {
-    "$probe" seed "$1" "$2" || echo none
+    "$probe" seed "$kind" "$1" "$2" || echo none
 }
 
 # expect_names FOLDER PATTERN STEP: every name in the folder matches the pattern.
 expect_names() {
-    local name
-    while read -r name; do
-        [[ $name =~ ^($2)$ ]] || fail "$3: \"$name\" was left behind"
+    local found
+    while read -r found; do
+        [[ $found =~ ^($2)$ ]] || fail "$3: \"$found\" was left behind"
     done < <(find "$1" -mindepth 1 -printf '%f\n')
 }
 
 # save FILE SIZE SEED: runs the probe; its exit status in $status, what it said in $said.
 save() {
-    said=$("$probe" save "$@" 2>&1)
+    said=$("$probe" save "$kind" "$@" 2>&1)
     status=$?
     checks=$((checks + 1))
 }
 
-# expect_refused FILE SIZE STEP: the last save was refused for want of room and the file holds seed 1.
+# expect_refused FILE SIZE STEP [REASON]: the last save was refused for want of room, or for that reason, and
+# the file holds seed 1.
 expect_refused() {
     local seed
     seed=$(seed_of "$1" "$2")
     [[ $status == 3 ]] || fail "$3: exit status $status, not 3"
-    [[ $said == *"No space left on device"* ]] || fail "$3: the reason is \"$said\""
+    [[ $said == *"${4:-No space left on device}"* ]] || fail "$3: the reason is \"$said\""
     [[ $seed == 1 ]] || fail "$3: the file holds $seed and not the old content"
 }
 
@@ -78,37 +93,60 @@ full_disk() {
         skip "no file system can be mounted here"
     fi
 
-    local disk=$work/disk file=$work/disk/f
+    disk=$work/disk
     mkdir "$disk"
     mount -t tmpfs -o size=64k none "$disk" || skip "no file system can be mounted here"
+    umount "$disk"
+    for what in lottery settings statement; do
+        take "$what"
+        full_disk_of_kind
+    done
+    finish
+}
 
+full_disk_of_kind() {
+    local file=$disk/$name
+    mount -t tmpfs -o size=64k none "$disk"
     save "$file" 300 1
-    [[ $status == 0 ]] || fail "an empty disk: exit status $status: $said"
+    [[ $status == 0 ]] || fail "$kind, an empty disk: exit status $status: $said"
     cat /dev/zero >"$disk/filler" 2>/dev/null
     save "$file" 300 2
-    expect_refused "$file" 300 "no room at all"
-    save "$disk/new" 300 2
-    [[ $status == 3 ]] || fail "a new file without room: exit status $status"
-    expect_names "$disk" "f|filler" "no room at all"
+    expect_refused "$file" 300 "$kind, no room at all"
+    if [[ $kind != settings ]]; then # which have one name only
+        save "$disk/new.${name#*.}" 300 2
+        [[ $status == 3 ]] || fail "$kind, a new file without room: exit status $status"
+    fi
+    expect_names "$disk" "$name|filler" "$kind, no room at all"
 
     rm "$disk/filler"
     save "$file" 300 2
-    [[ $status == 0 && $(seed_of "$file" 300) == 2 ]] || fail "room again: exit status $status: $said"
+    [[ $status == 0 && $(seed_of "$file" 300) == 2 ]] || fail "$kind, room again: exit status $status: $said"
 
     save "$file" 40000 1
-    [[ $status == 0 ]] || fail "a larger file: exit status $status: $said"
+    [[ $status == 0 ]] || fail "$kind, a larger file: exit status $status: $said"
     save "$file" 40000 2
-    expect_refused "$file" 40000 "room for a part of the new file"
-    expect_names "$disk" "f" "room for a part of the new file"
+    expect_refused "$file" 40000 "$kind, room for a part of the new file"
+    expect_names "$disk" "$name" "$kind, room for a part of the new file"
+
+    mount -o remount,ro "$disk"
+    save "$file" 40000 2
+    expect_refused "$file" 40000 "$kind, a read-only file system" "is not writable"
+    if [[ $kind != settings ]]; then
+        save "$disk/new.${name#*.}" 300 2
+        [[ $status == 3 && $said == *"Read-only file system"* ]] ||
+            fail "$kind, a new file on a read-only file system: exit status $status: $said"
+    fi
+    expect_names "$disk" "$name" "$kind, a read-only file system"
     umount "$disk"
 
-    mount -t tmpfs -o size=64k,nr_inodes=2 none "$disk" || skip "no file system can be mounted here"
-    "$probe" save "$work/whole" 300 1 && cat "$work/whole" >"$file"
+    mount -t tmpfs -o size=64k,nr_inodes=2 none "$disk"
+    mkdir -p "$work/whole"
+    save "$work/whole/$name" 300 1
+    cat "$work/whole/$name" >"$file"
     save "$file" 300 2
-    expect_refused "$file" 300 "no room for one more file"
-    expect_names "$disk" "f" "no room for one more file"
+    expect_refused "$file" 300 "$kind, no room for one more file"
+    expect_names "$disk" "$name" "$kind, no room for one more file"
     umount "$disk"
-    finish
 }
 
 changing="?open,openat,?chmod,fchmod,?fchmodat,write,?writev,?pwrite64,ftruncate,fsync,fdatasync,?link,linkat,\
@@ -120,7 +158,7 @@ traced=$changing,$looking
 # trace_save OPTION...: a save under strace with these options more; the trace in $work/trace.
 trace_save() {
     cp "$work/1" "$file" # as it was before
-    said=$(strace -o "$work/trace" -e trace="$traced" "$@" "$probe" save "$file" "$size" 2 2>&1)
+    said=$(strace -o "$work/trace" -e trace="$traced" "$@" "$probe" save "$kind" "$file" "$size" 2 2>&1)
     status=$?
 }
 
@@ -134,7 +172,7 @@ calls_of_a_save() {
 
 # check_fault CALL ORDINAL FAULT [OPTION...]: that call fails so; the options come before.
 check_fault() {
-    local call=$1 ordinal=$2 fault=$3 step="$1 number $2, $3, $size bytes$way" seed
+    local call=$1 ordinal=$2 fault=$3 step="$kind, $1 number $2, $3, $size bytes$way" seed
     shift 3
     rm -rf "$folder"
     mkdir "$folder"
@@ -147,10 +185,10 @@ check_fault() {
     [[ $(stat -c %a "$file") == [67]* ]] || fail "$step: its owner may not read or write the file"
     if [[ $fault == signal=KILL ]]; then
         [[ $status == 137 ]] || fail "$step: exit status $status, not killed"
-        expect_names "$folder" "f|f\.[A-Za-z]{6}" "$step"
+        expect_names "$folder" "$name|$name\.[A-Za-z]{6}" "$step"
         return
     fi
-    expect_names "$folder" "f" "$step"
+    expect_names "$folder" "$name" "$step"
     grep -q INJECTED "$work/trace" || fail "$step: nothing was injected"
     case $status in
     0)
@@ -184,71 +222,53 @@ check_all_calls() {
 }
 
 calls() {
-    local proc
     command -v strace >/dev/null || skip "strace is not installed"
     strace -o /dev/null -e trace=write -e inject=write:error=ENOSPC:when=1 true 2>/dev/null ||
         skip "strace may not trace here"
     folder=$work/folder
-    file=$folder/f
     mkdir "$folder"
-    for size in 300 40000; do
-        # The larger file differs only in how it gets to the disk.
-        [[ $size == 300 ]] && traced=$changing,$looking || traced=$changing
-        "$probe" save "$work/1" "$size" 1 || fail "no old file to compare with"
-        "$probe" save "$work/2" "$size" 2 || fail "no new file to compare with"
-
-        way=", unnamed new file"
-        check_all_calls
-
-        # Where files cannot be made without a name, a named one beside the target is written. Without /proc that is
-        # so everywhere.
-        way=", named new file"
-        traced+=",?access,?faccessat,?faccessat2"
-        trace_save
-        proc=$(awk '/^[a-z_0-9]+\(/ { name = $0; sub(/\(.*/, "", name); ++ordinal[name]
-            if (index($0, "\"/proc/version\"")) { print name ":error=ENOENT:when=" ordinal[name]; exit } }' \
-            "$work/trace")
-        if [[ -n $proc ]]; then
-            check_all_calls -e inject="$proc"
-        else
-            echo "the named way cannot be forced with this version of Qt"
-        fi
+    for what in lottery settings statement; do
+        take "$what"
+        for size in 300 40000; do
+            [[ $size == 300 || $kind == lottery || $everything == all ]] && calls_of_kind
+        done
     done
     finish
 }
 
-kills() {
-    local file=$work/folder/f size before seed saved=0 begin started count child
-    mkdir "$work/folder"
-    for size in 300 40000; do
-        begin=$(date +%s%N)
-        save "$file" "$size" 0
-        [[ $status == 0 ]] || fail "no kill at all: exit status $status: $said"
-        started=$((($(date +%s%N) - begin) / 1000000)) # what the program takes to start and save, in ms
-        before=0
-        for ((count = 0; count < 50; ++count)); do
-            "$probe" loop "$file" "$size" &
-            child=$!
-            sleep "$(printf '0.%03d' $(((started + RANDOM % 30) % 1000)))"
-            kill -KILL "$child"
-            wait "$child" 2>/dev/null
-            checks=$((checks + 1))
-            seed=$(seed_of "$file" "$size")
-            [[ $seed != none ]] || fail "kill $count, $size bytes: the file is not whole"
-            [[ $seed == "$before" ]] || saved=$((saved + 1))
-            before=$seed
-            expect_names "$work/folder" "f|f\.[A-Za-z]{6}" "kill $count"
-            find "$work/folder" -name 'f.*' -delete
-        done
+# calls_of_kind: every call of a save of that kind and size.
+calls_of_kind() {
+    local proc seed
+    file=$folder/$name
+    # The larger file differs only in how it gets to the disk.
+    [[ $size == 300 ]] && traced=$changing,$looking || traced=$changing
+    for seed in 1 2; do # what to compare with
+        save "$file" "$size" "$seed"
+        [[ $status == 0 ]] || fail "$kind, no fault at all: exit status $status: $said"
+        cp "$file" "$work/$seed"
     done
-    echo "$saved of 100 programs had saved when they were killed"
-    ((saved > 10)) || fail "hardly any program was killed while it saved"
-    finish
+
+    way=", unnamed new file"
+    check_all_calls
+
+    [[ $kind == lottery || $everything == all ]] || return
+    # Where files cannot be made without a name, a named one beside the target is written. Without /proc that is
+    # so everywhere.
+    way=", named new file"
+    traced+=",?access,?faccessat,?faccessat2"
+    trace_save
+    proc=$(awk '/^[a-z_0-9]+\(/ { name = $0; sub(/\(.*/, "", name); ++ordinal[name]
+        if (index($0, "\"/proc/version\"")) { print name ":error=ENOENT:when=" ordinal[name]; exit } }' \
+        "$work/trace")
+    if [[ -n $proc ]]; then
+        check_all_calls -e inject="$proc"
+    else
+        echo "the named way cannot be forced with this version of Qt"
+    fi
 }
 
 case $what in
 full-disk) full_disk ;;
 calls) calls ;;
-kills) kills ;;
 *) fail "there is no test $what" && exit 1 ;;
 esac
