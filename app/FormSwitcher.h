@@ -33,6 +33,9 @@ public:
     /// Takes the form that is shown out of sight until ShowForm.
     virtual void HideForm() = 0;
 
+    /// Opens the help at its contents.
+    virtual void ShowHelp() = 0;
+
     /// Says plainly that something comes with a later version.
     virtual void TellComesLater(const QString& what) = 0;
 

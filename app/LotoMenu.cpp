@@ -65,7 +65,7 @@ void LotoMenu::ConnectButtons()
     Events().OnClick(m_ui->InvTrack, [this] { Switcher().ShowForm(FormName::LInvTrack); });
     Events().OnClick(m_ui->PtrFnt, [this] { Personalize(); });
     Events().OnClick(m_ui->PrintDbase, [this] { PrintDatabase(); });
-    Events().OnClick(m_ui->HowtoUse, [this] { Switcher().TellComesLater(u"'How to Use the Program'"_s); });
+    Events().OnClick(m_ui->HowtoUse, [this] { Switcher().ShowHelp(); });
     Events().OnClick(m_ui->Exit1Butt, [this] { Exit(); });
 }
 

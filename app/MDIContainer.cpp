@@ -219,6 +219,15 @@ void MDIContainer::closeEvent(QCloseEvent* event)
     event->setAccepted(formAgrees && MayEndProgram(m_shared, m_prompts));
 }
 
+void MDIContainer::ShowHelp()
+{
+    if (m_openHelp) {
+        m_openHelp();
+    } else {
+        TellComesLater(u"'How to Use the Program'"_s);
+    }
+}
+
 void MDIContainer::TellComesLater(const QString& what)
 {
     m_prompts.SetBusyPointer(false);

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <map>
+#include <utility>
 
 /// The main window: the menu and the working forms stand in it, one at a time.
 class MDIContainer : public QMainWindow, public FormSwitcher
@@ -29,6 +30,9 @@ public:
     /// Says how a dialog is run.
     void AddDialog(FormName name, DialogRunner runner);
 
+    /// Says how the help is opened at its contents.
+    void SetHelp(std::function<void()> openContents) { m_openHelp = std::move(openContents); }
+
     /// The menu's start and the window's place: left 0, top 0, 9,615 by 6,870 twips, or more where the
     /// desktop's font needs more.
     void Start();
@@ -43,6 +47,7 @@ public:
     void ShowForm(FormName name) override;
     bool RunDialog(FormName name) override;
     void HideForm() override;
+    void ShowHelp() override;
     void TellComesLater(const QString& what) override;
     void SetCaption(const QString& caption) override;
     void FileChanged() override;
@@ -70,4 +75,5 @@ private:
     std::map<FormName, FormMaker> m_makers;
     std::map<FormName, WorkingForm*> m_forms;
     std::map<FormName, DialogRunner> m_dialogs;
+    std::function<void()> m_openHelp;
 };

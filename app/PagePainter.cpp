@@ -1,6 +1,7 @@
 #include "app/PagePainter.h"
 
 #include "app/ChartPainter.h"
+#include "app/HtmlPages.h"
 
 #include <QBuffer>
 #include <QFontDatabase>
@@ -138,6 +139,10 @@ void PaintPage(QPainter& painter, const PrintedDocument& document, int page, con
     const QSizeF size = SizeOfPage(document, page, paper);
     if (const BarChart* chart = ChartOnPage(document, page)) {
         PaintChartPage(painter, *chart, size);
+        return;
+    }
+    if (const int htmlPage = HtmlPageOnPage(document, page); htmlPage >= 0) {
+        PaintHtmlPage(painter, document.html, htmlPage, document.name, size);
         return;
     }
     painter.save();

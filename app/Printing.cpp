@@ -27,6 +27,15 @@ void PrintOnRequest(LGLOBAL& shared, Prompts& prompts, const QString& name, cons
     }
 }
 
+void PrintDocumentOnRequest(LGLOBAL& shared, Prompts& prompts, const PrintedDocument& document)
+{
+    shared.questionNumber = kContinueWithPrintout;
+    prompts.AskToPrint([&document] { return document; });
+    if (shared.questionNumber == kAnsweredYes) {
+        prompts.PrintDocument(document);
+    }
+}
+
 PrintedDocument ChartDocument(const BarChart& chart)
 {
     return {.name = DocumentName(chart.title), .pages = {}, .charts = {chart}};

@@ -23,6 +23,10 @@ using WriteReport = std::function<void(Printout&)>;
 /// A document of one page, which is the chart.
 [[nodiscard]] PrintedDocument ChartDocument(const BarChart& chart);
 
+/// Asks question 1, with a look at the pages offered beside its answers, and prints after Yes: for a document
+/// that is made already.
+void PrintDocumentOnRequest(LGLOBAL& shared, Prompts& prompts, const PrintedDocument& document);
+
 /// Asks question 1, with a look at the page in color offered beside its answers; after Yes question 2, and
 /// prints the chart as it is on a page of its own: in color after Yes, else in black and white.
 void PrintChartOnRequest(LGLOBAL& shared, Prompts& prompts, const BarChart& chart);

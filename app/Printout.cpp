@@ -77,7 +77,7 @@ QString DocumentName(const QString& name)
 
 int PageCount(const PrintedDocument& document)
 {
-    return int(document.pages.size() + document.charts.size());
+    return int(document.pages.size() + document.charts.size()) + document.htmlPages;
 }
 
 const BarChart* ChartOnPage(const PrintedDocument& document, int page)
@@ -85,6 +85,12 @@ const BarChart* ChartOnPage(const PrintedDocument& document, int page)
     const qsizetype chart = page - qsizetype(document.pages.size());
     return chart >= 0 && chart < qsizetype(document.charts.size()) ? &document.charts[size_t(chart)]
                                                                    : nullptr;
+}
+
+int HtmlPageOnPage(const PrintedDocument& document, int page)
+{
+    const int htmlPage = page - int(document.pages.size() + document.charts.size());
+    return htmlPage >= 0 && htmlPage < document.htmlPages ? htmlPage : -1;
 }
 
 Printout::Printout(const QString& name, qint16 printerFont) : m_linesPerPage(kStandardLinesPerPage)

@@ -26,13 +26,15 @@ enum PrinterFont : qint16 {
     kCourierNewFont = 1, ///< "Courier New", 11 points
 };
 
-/// What goes to paper: pages of text lines, and charts, each on a whole page in landscape. A plain value, so
-/// that it can be compared and kept.
+/// What goes to paper: pages of text lines, charts, each on a whole page in landscape, and formatted text. A
+/// plain value, so that it can be compared and kept.
 struct PrintedDocument {
     QString name; ///< what the print queue and the preview call it
     qint16 printerFont = kStandardFont;
     std::vector<PrintedPage> pages;
     std::vector<BarChart> charts; ///< the pages that come after those of text
+    QString html{};               ///< formatted text, on the pages that come last
+    int htmlPages = 0;            ///< how many pages that is
 
     bool operator==(const PrintedDocument&) const = default;
 };
@@ -40,12 +42,15 @@ struct PrintedDocument {
 /// The name as every queue and window takes it: one line, cut after a hundred characters.
 [[nodiscard]] QString DocumentName(const QString& name);
 
-/// How many pages a document has, charts included.
+/// How many pages a document has, charts and formatted text included.
 [[nodiscard]] int PageCount(const PrintedDocument& document);
 
 /// The chart that is a page of the document. @param page  0 for the first
 /// @return nullptr for a page of text, and for a page that the document does not have.
 [[nodiscard]] const BarChart* ChartOnPage(const PrintedDocument& document, int page);
+
+/// Which page of its formatted text a page of the document is, both from 0. @return -1 for any other page.
+[[nodiscard]] int HtmlPageOnPage(const PrintedDocument& document, int page);
 
 inline constexpr int kPrintColumns = 75; ///< columns that A4 and Letter hold in either font
 inline constexpr int kSheetLines =

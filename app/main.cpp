@@ -21,6 +21,7 @@
 #include "database/LDbase.h"
 #include "database/LGraph.h"
 #include "database/StatisticsChart.h"
+#include "help/HelpDesk.h"
 #include "hotcold/LHotCold.h"
 #include "invest/InInvNum.h"
 #include "invest/LInvTrack.h"
@@ -160,6 +161,14 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
         constexpr int kAnyRow = 7;
         return std::make_unique<InInvNum>(shared, kAnyRow, &window);
     };
+    const auto help = [&](const QString& page, const QString& words) {
+        return [&shared, &prompts, page, words] {
+            auto pages = std::make_unique<HelpWindow>(shared, prompts);
+            pages->ShowPage(page);
+            pages->SearchFor(words);
+            return pages;
+        };
+    };
     return {
         {u"AMsgbox"_s, message, {}},
         {u"AllYesNo"_s, question, {}},
@@ -176,6 +185,9 @@ std::vector<TourDialog> TourDialogs(LGLOBAL& shared, Prompts& prompts, MDIContai
         {u"Extract"_s, extract, {}},
         {u"Extract-help"_s, extract, u"EHelp"_s},
         {u"InInvNum"_s, insertedLine, {}},
+        {u"HelpWindow"_s, help(u"welcome"_s, {}), {}},
+        {u"HelpWindow-search"_s, help(u"welcome"_s, u"bonus number"_s), {}},
+        {u"HelpWindow-chance"_s, help(u"chance"_s, {}), {}},
     };
 }
 
@@ -287,6 +299,8 @@ int main(int argc, char* argv[])
     window.AddDialog(FormName::Extract, [&](FormSwitcher& switcher, QWidget* mainWindow) {
         Extract(shared, prompts, switcher, mainWindow).exec();
     });
+    auto* help = new HelpDesk(shared, prompts, &window.Menu()); // which owns it
+    window.SetHelp([help] { help->OpenContents(); });
     window.Start();
     window.show();
     constexpr int kAfterTheFirstPicture = 100; // milliseconds: the picture need not wait until icons are read

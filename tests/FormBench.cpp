@@ -9,6 +9,8 @@ FormBench::FormBench()
     m_shared.locale = QLocale(QLocale::English, QLocale::UnitedStates);
     m_shared.today = [] { return QDate(2026, 11, 18); }; // a Wednesday
     AddAllForms(m_window, m_shared, m_prompts);
+    m_help = new HelpDesk(m_shared, m_prompts, &m_window.Menu());
+    m_window.SetHelp([this] { m_help->OpenContents(); });
 }
 
 FormBench::~FormBench()

@@ -5,6 +5,7 @@
 #include "database/Extract.h"
 #include "database/LDbase.h"
 #include "database/LGraph.h"
+#include "help/HelpDesk.h"
 #include "hotcold/LHotCold.h"
 #include "invest/LInvTrack.h"
 #include "picks/LCheckWin.h"
@@ -100,6 +101,7 @@ protected:
     LGLOBAL m_shared;
     CannedPrompts m_prompts{m_shared};
     MDIContainer m_window{m_shared, m_prompts, m_folder.path()};
+    HelpDesk* m_help = nullptr; ///< the menu owns it
     int m_dialogsToCome = 0;
     QObject m_dialogWatch; ///< owns what waits for a dialog
 };

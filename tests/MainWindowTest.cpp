@@ -120,6 +120,7 @@ TEST_F(MainWindow, AButtonWhoseFormComesLaterSaysSoAndTheMenuStays)
 {
     Start();
     FillDatabase(1);
+    m_window.SetHelp({}); // a program that is put together without it
     const QStringList later{u"HowtoUse"_s};
     for (const QString& name : later) {
         m_prompts.notices.clear();

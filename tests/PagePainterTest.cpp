@@ -1,5 +1,6 @@
 #include "app/PagePainter.h"
 
+#include "app/HtmlPages.h"
 #include "app/Printing.h"
 #include "tests/MadeChart.h"
 #include "tests/PrintedPages.h"
@@ -189,4 +190,26 @@ TEST(PagePainter, AChartIsDrawnInThePdfAndNotPutThereAsAPicture)
         EXPECT_FALSE(pdf.contains("/Subtype /Image"));
         EXPECT_FALSE(pdf.contains("/PaintType 2")) << "no hatch brush";
     }
+}
+
+TEST(PagePainter, FormattedTextKeepsItsMarginsOnEveryPaperAndComesAfterThePagesOfLines)
+{
+    PrintedDocument document;
+    document.name = u"Text"_s;
+    document.html = u"<h1>Heading</h1>"_s + u"<p>Words that fill the lines of a page.</p>"_s.repeated(60);
+    document.htmlPages = CountHtmlPages(document.html);
+    EXPECT_GE(document.htmlPages, 2);
+    for (const QPageSize::PageSizeId id : {QPageSize::A4, QPageSize::Letter, QPageSize::A5}) {
+        const QImage image = Picture(document, QPageSize(id));
+        const QRect ink = Ink(image);
+        EXPECT_GE(ink.left(), 35);
+        EXPECT_GE(ink.top(), 35);
+        EXPECT_LE(ink.right(), image.width() - 35);
+        EXPECT_LE(ink.bottom(), image.height() - 35);
+        EXPECT_GE(ink.height(), image.height() * 3 / 4);
+    }
+    document.pages.resize(1);
+    EXPECT_EQ(PageCount(document), 1 + document.htmlPages);
+    EXPECT_FALSE(Ink(Picture(document, QPageSize(QPageSize::A4))).isValid())
+        << "the first page is one of lines";
 }

@@ -207,3 +207,19 @@ TEST(Printout, ChartsAreThePagesAfterThoseOfText)
     EXPECT_EQ(ChartOnPage(document, -1), nullptr);
     EXPECT_FALSE(document == printout.Document());
 }
+
+TEST(PrintedDocument, FormattedTextTakesThePagesThatComeLast)
+{
+    PrintedDocument document;
+    document.pages.resize(2);
+    document.charts.resize(1);
+    EXPECT_EQ(HtmlPageOnPage(document, 3), -1);
+    document.html = u"<p>text</p>"_s;
+    document.htmlPages = 2;
+    EXPECT_EQ(PageCount(document), 5);
+    EXPECT_EQ(HtmlPageOnPage(document, 2), -1);
+    EXPECT_EQ(HtmlPageOnPage(document, 3), 0);
+    EXPECT_EQ(HtmlPageOnPage(document, 4), 1);
+    EXPECT_EQ(HtmlPageOnPage(document, 5), -1);
+    EXPECT_EQ(HtmlPageOnPage(document, -1), -1);
+}
