@@ -6,8 +6,10 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QLayout>
 #include <QResizeEvent>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -19,6 +21,18 @@ constexpr int kHeightInTwips = 6870;
 constexpr int kLargeFromTwips = 8500;
 constexpr qint32 kSmallLayout = 6810;
 constexpr qint32 kLargeLayout = 8670;
+
+/// What a form needs so that nothing of it is clipped, at the width it has.
+QSize LeastSize(const QWidget& form)
+{
+    QSize least = form.minimumSizeHint();
+    if (const QLayout* layout = form.layout(); layout != nullptr && layout->hasHeightForWidth()) {
+        const int width =
+            std::max(least.width(), form.width()); // texts over several lines need less when wider
+        least.setHeight(std::max(least.height(), layout->totalMinimumHeightForWidth(width)));
+    }
+    return least;
+}
 
 QString NameOf(FormName name)
 {
@@ -151,6 +165,8 @@ void MDIContainer::BringToFront(WorkingForm* form)
         HideForm();
     }
     m_active = form;
+    form->removeEventFilter(this);
+    form->installEventFilter(this);
     GrowFor(*form);
     MoveForm(form, form->FrontPlace());
     form->show();
@@ -166,7 +182,7 @@ void MDIContainer::BringToFront(WorkingForm* form)
 void MDIContainer::GrowFor(const WorkingForm& form)
 {
     // A desktop with a large font needs more room than the 9,615 by 6,870 twips; nothing may be clipped.
-    QSize needed = form.minimumSizeHint();
+    QSize needed = LeastSize(form);
     if (PixelsToTwips(needed.height(), logicalDpiY()) > kLargeFromTwips) {
         const QPoint corner = InPixels(WorkingForm::ResizedPlace(kLargeLayout));
         needed += QSize(corner.x(), corner.y());
@@ -180,7 +196,7 @@ void MDIContainer::MoveForm(WorkingForm* form, QPoint twips)
     const QPoint corner = InPixels(twips);
     const QSize distance(corner.x(), corner.y());
     const QSize room = m_stage->size() - distance;
-    form->setGeometry(QRect(corner, (room - distance).expandedTo(form->minimumSizeHint().boundedTo(room))));
+    form->setGeometry(QRect(corner, (room - distance).expandedTo(LeastSize(*form).boundedTo(room))));
 }
 
 QPoint MDIContainer::InPixels(QPoint twips) const
@@ -201,6 +217,15 @@ bool MDIContainer::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_stage && event->type() == QEvent::Resize) {
         StageResized();
+    }
+    // What a form needs may show only when it is laid out, as the lines of a text.
+    if (watched == m_active && event->type() == QEvent::LayoutRequest) {
+        const auto grow = [this] {
+            if (m_active != nullptr) {
+                GrowFor(*m_active);
+            }
+        };
+        QMetaObject::invokeMethod(this, grow, Qt::QueuedConnection); // after the layout has done its part
     }
     return QMainWindow::eventFilter(watched, event);
 }

@@ -52,7 +52,9 @@ bool NeedsLine(const QWidget* widget)
     if (const auto* text = qobject_cast<const QTextEdit*>(widget)) {
         return text->isReadOnly();
     }
-    return qobject_cast<const QScrollArea*>(widget) != nullptr;
+    // A table that marks its current cell at all times looks the same without the focus.
+    return qobject_cast<const QScrollArea*>(widget) != nullptr ||
+           (widget != nullptr && widget->property("needsFocusLine").toBool());
 }
 
 } // namespace

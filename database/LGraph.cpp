@@ -5,6 +5,10 @@
 #include "database/StatisticsChart.h"
 #include "ui_LGraph.h"
 
+#include <QPushButton>
+
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -18,12 +22,24 @@ const QString kToTimesDrawn = u"Times &Drawn"_s;
 const QString kToThreeD = u"&ThreeD Graph"_s;
 const QString kToTwoD = u"&TwoD Graph"_s;
 
+/// The button is wide enough for each of its captions, whatever the letters.
+void KeepRoomFor(QPushButton& button, const QStringList& captions)
+{
+    for (const QString& caption : captions) {
+        button.setText(caption);
+        button.setMinimumWidth(std::max(button.minimumWidth(), button.minimumSizeHint().width()));
+    }
+}
+
 } // namespace
 
 LGraph::LGraph(LGLOBAL& shared, Prompts& prompts, FormSwitcher& switcher, QWidget* parent)
     : WorkingForm(shared, prompts, switcher, parent), m_ui(std::make_unique<Ui::LGraph>())
 {
     m_ui->setupUi(this);
+    KeepRoomFor(*m_ui->GWhichCnt, {kToSinceLastDrawn, kToTimesDrawn});
+    KeepRoomFor(*m_ui->ChngView, {kToSorted, kToUnsorted});
+    KeepRoomFor(*m_ui->TwoDBut, {kToThreeD, kToTwoD});
     Events().OnClick(m_ui->GWhichCnt, [this] { SwitchCount(); });
     Events().OnClick(m_ui->ChngView, [this] { SwitchOrder(); });
     Events().OnClick(m_ui->TwoDBut, [this] { SwitchStyle(); });

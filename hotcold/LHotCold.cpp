@@ -3,6 +3,7 @@
 #include "app/Printing.h"
 #include "app/TextPictures.h"
 #include "app/ToolTips.h"
+#include "app/WrappedLabel.h"
 #include "hotcold/HcdChart.h"
 #include "hotcold/HcdHelp.h"
 #include "hotcold/PrintHcdSets.h"
@@ -62,6 +63,9 @@ void LHotCold::SetUpLabels()
     m_ui->Label7->setMinimumHeight(2 * line);
     m_ui->Label6->setMinimumHeight(3 * line);
     m_ui->InfoLabel2->setMinimumHeight(2 * line);
+    for (QLabel* label : {m_ui->Label5, m_ui->Label6, m_ui->Label7}) {
+        KeepWholeTextInSight(*label);
+    }
 }
 
 void LHotCold::SetUpInputs()

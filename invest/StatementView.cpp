@@ -64,6 +64,7 @@ StatementView::StatementView(QWidget* parent) : QTableView(parent)
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::NoSelection); // the current cell is all there is
     setTabKeyNavigation(false);                       // Tab leads on to the buttons
+    setProperty("needsFocusLine", true);              // the current cell shows without the focus too
 }
 
 void StatementView::Refuse()

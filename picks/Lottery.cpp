@@ -5,6 +5,7 @@
 #include "app/TextPictures.h"
 #include "app/ToolTips.h"
 #include "app/Twips.h"
+#include "app/WrappedLabel.h"
 #include "picks/PickSets.h"
 #include "picks/PickTexts.h"
 #include "picks/PrintSets.h"
@@ -93,6 +94,9 @@ void Lottery::SetUpLabels()
     const int line = std::max(metrics.height(), metrics.lineSpacing()) + 1; // fractions of a pixel add up
     for (QLabel* label : {m_ui->Label5, m_ui->Label6, m_ui->Label7, m_ui->InfoLabel1}) {
         label->setMinimumHeight(2 * line);
+    }
+    for (QLabel* label : {m_ui->Label5, m_ui->Label6, m_ui->Label7}) {
+        KeepWholeTextInSight(*label);
     }
     m_ui->InfoLabel1->setMaximumHeight(3 * line); // a longer title is read in the tool tip
     m_ui->Picture7->setMinimumHeight(line);

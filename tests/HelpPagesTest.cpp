@@ -2,6 +2,7 @@
 #include "app/AllYesNo.h"
 #include "app/MessageTable.h"
 #include "app/PrintPreview.h"
+#include "app/RecoveryOffer.h"
 #include "database/InRecNum.h"
 #include "help/HelpBrowser.h"
 #include "invest/InInvNum.h"
@@ -125,6 +126,7 @@ protected:
         Collect(ChangeFnt(m_shared, m_prompts, m_window, &m_window));
         Collect(Extract(m_shared, m_prompts, m_window, &m_window));
         Collect(*m_help->Window());
+        Collect(RecoveryOffer());
     }
 
     QSet<QString> m_buttons;

@@ -940,7 +940,8 @@ TEST_F(HotCold, NumbersStandInTheMiddleOfTheirCells)
         }
     }
     ASSERT_LE(first, last);
-    EXPECT_NEAR((first + last) / 2.0, picture.width() / 2.0, 2.5 * picture.devicePixelRatio());
+    // Two digits differ in their own margins by some pixels; at the right edge they would be a quarter off.
+    EXPECT_NEAR((first + last) / 2.0, picture.width() / 2.0, picture.width() / 8.0);
 }
 
 TEST_F(HotCold, FiveThousandRejectionsBringTheMessageAndLeaveTheGridEmpty)

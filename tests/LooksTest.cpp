@@ -1,7 +1,7 @@
 #include "tests/EveryForm.h"
 
-#include <QGroupBox>
 #include <QLineEdit>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -19,10 +19,15 @@ QString Clipped(const QWidget& widget)
         if (label->wordWrap()) {
             needed = {label->minimumSizeHint().width(), label->heightForWidth(label->width())};
         }
-    } else if (qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
-               qobject_cast<const QLineEdit*>(&widget) != nullptr ||
-               qobject_cast<const QGroupBox*>(&widget) != nullptr) {
-        needed = widget.minimumSizeHint();
+    } else if (const auto* push = qobject_cast<const QPushButton*>(&widget)) {
+        constexpr int kFrame = 4; // the style's padding may shrink, the text may not
+        needed = push->fontMetrics().size(Qt::TextShowMnemonic, push->text()) + QSize(kFrame, kFrame);
+    } else if (const auto* box = qobject_cast<const QLineEdit*>(&widget)) {
+        constexpr int kFrame = 6;
+        needed = QSize(box->fontMetrics().horizontalAdvance(box->text()), box->fontMetrics().height()) +
+                 QSize(kFrame, kFrame / 2);
+    } else if (qobject_cast<const QAbstractButton*>(&widget) != nullptr) {
+        needed = widget.minimumSizeHint(); // with its mark
     }
     if (needed.width() <= widget.width() && needed.height() <= widget.height()) {
         return {};
@@ -49,7 +54,15 @@ QString WhatDoesNotFit(const QWidget& form)
         const QWidget* parent = widget->parentWidget();
         const bool scrolls = parent->objectName() == u"qt_scrollarea_viewport"_s;
         if (!scrolls && !parent->rect().contains(widget->geometry())) {
-            faults << widget->objectName() + u" stands out of "_s + parent->objectName();
+            const QRect place = widget->geometry();
+            faults << u"%1 stands out of %2: %3,%4 %5 x %6 in %7 x %8"_s
+                          .arg(widget->objectName(), parent->objectName())
+                          .arg(place.x())
+                          .arg(place.y())
+                          .arg(place.width())
+                          .arg(place.height())
+                          .arg(parent->width())
+                          .arg(parent->height());
         }
     }
     return faults.join(u'\n');
