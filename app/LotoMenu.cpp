@@ -107,6 +107,9 @@ void LotoMenu::resizeEvent(QResizeEvent* event)
     const QSizeF lines = QSizeF(size()) / fontMetrics().height();
     const qreal growth = std::clamp(
         std::min(lines.width() / kOpening.width(), lines.height() / kOpening.height()), qreal(1), kLargest);
+    if (growth > 1 && !m_leastSize.isValid()) {
+        m_leastSize = WorkingForm::minimumSizeHint();
+    }
     QFont letters = font();
     letters.setPointSizeF(letters.pointSizeF() * growth);
     const QList<QAbstractButton*> buttons = findChildren<QAbstractButton*>();
@@ -115,6 +118,14 @@ void LotoMenu::resizeEvent(QResizeEvent* event)
             button->setFont(letters);
         }
     }
+    if (growth == 1) {
+        m_leastSize = {};
+    }
+}
+
+QSize LotoMenu::minimumSizeHint() const
+{
+    return m_leastSize.isValid() ? m_leastSize : WorkingForm::minimumSizeHint();
 }
 
 void LotoMenu::Load()

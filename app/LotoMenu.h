@@ -38,6 +38,9 @@ public:
     /// Puts a panel with something to tell above the buttons; it belongs to the menu from now on.
     void AddPanel(QWidget* panel);
 
+    /// With the desktop's own letters: a large window may become small again.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
 Q_SIGNALS:
     /// The user has chosen one of the files last opened, and it is there.
     void RecentFileChosen(const QString& path);
@@ -59,5 +62,6 @@ private:
     void Exit();
 
     QString m_programFolder;
+    QSize m_leastSize; ///< needed with the desktop's own letters, while larger ones are shown
     std::unique_ptr<Ui::LotoMenu> m_ui;
 };

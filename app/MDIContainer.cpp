@@ -26,7 +26,8 @@ constexpr qint32 kLargeLayout = 8670;
 QSize LeastSize(const QWidget& form)
 {
     QSize least = form.minimumSizeHint();
-    if (const QLayout* layout = form.layout(); layout != nullptr && layout->hasHeightForWidth()) {
+    const QLayout* layout = form.layout();
+    if (layout != nullptr && layout->hasHeightForWidth() && layout->totalMinimumSize() == least) {
         const int width =
             std::max(least.width(), form.width()); // texts over several lines need less when wider
         least.setHeight(std::max(least.height(), layout->totalMinimumHeightForWidth(width)));
@@ -165,12 +166,18 @@ void MDIContainer::BringToFront(WorkingForm* form)
         HideForm();
     }
     m_active = form;
-    form->removeEventFilter(this);
-    form->installEventFilter(this);
     GrowFor(*form);
     MoveForm(form, form->FrontPlace());
     form->show();
     form->raise();
+    // What a text over several lines needs shows only when it has its width, and another width changes it
+    // again.
+    constexpr int kRounds = 3;
+    for (int i = 0; i < kRounds; ++i) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        GrowFor(*form);
+        MoveForm(form, form->FrontPlace());
+    }
     FileChanged();
     if (form->focusWidget() != nullptr) {
         form->focusWidget()->setFocus();
@@ -217,15 +224,6 @@ bool MDIContainer::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_stage && event->type() == QEvent::Resize) {
         StageResized();
-    }
-    // What a form needs may show only when it is laid out, as the lines of a text.
-    if (watched == m_active && event->type() == QEvent::LayoutRequest) {
-        const auto grow = [this] {
-            if (m_active != nullptr) {
-                GrowFor(*m_active);
-            }
-        };
-        QMetaObject::invokeMethod(this, grow, Qt::QueuedConnection); // after the layout has done its part
     }
     return QMainWindow::eventFilter(watched, event);
 }

@@ -18,7 +18,9 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (m_label.isVisible() && (event->type() == QEvent::Resize || event->type() == QEvent::Paint)) {
+        const QEvent::Type type = event->type();
+        if (m_label.isVisible() &&
+            (type == QEvent::Show || type == QEvent::Resize || type == QEvent::Paint)) {
             const int needed = std::max(m_least, Needed());
             if (needed != m_label.minimumHeight()) {
                 m_label.setMinimumHeight(needed);

@@ -101,4 +101,21 @@ TEST(Looks, TheWindowOfEveryFormFitsAScreenOf1280By800UpToTwelvePoints)
     QApplication::setFont(before);
 }
 
+TEST(Looks, AWindowThatWasLargeBecomesAsSmallAsItWas)
+{
+    EveryForm forms;
+    QSize least;
+    forms.Visit([&](QWidget& form, const QString& name) {
+        if (form.window()->objectName() != u"MDIContainer"_s) {
+            return;
+        }
+        const QSize now = form.window()->minimumSize();
+        if (form.window()->width() == 1280) { // it has just been made large: nothing new is needed for that
+            EXPECT_EQ(now, least) << name.toStdString();
+        }
+        least = now;
+    });
+    EXPECT_TRUE(least.isValid());
+}
+
 } // namespace
