@@ -803,6 +803,17 @@ TEST_F(WinnerCheck, TheHelpOpensAndCloses)
     EXPECT_EQ(Find<QPushButton>(u"CHelp"_s).text(), u"Quick &Help"_s);
 }
 
+TEST_F(WinnerCheck, TheHelpIsScrolledByTheKeysAndHandsTheFocusBack)
+{
+    OpenWith(1);
+    Find<QPushButton>(u"CHelp"_s).setFocus();
+    QTest::keyClick(m_window.focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(FocusName(), u"CTextBox"_s);
+    Find<QPushButton>(u"CHelp"_s).click();
+    EXPECT_FALSE(HelpIsOpen());
+    EXPECT_EQ(FocusName(), u"CHelp"_s);
+}
+
 TEST_F(WinnerCheck, ASearchThatFindsDrawsClosesTheHelp)
 {
     OpenWith(10);
