@@ -15,6 +15,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -26,7 +27,8 @@ constexpr int kNoRecordsToWorkWith = 44;
 /// What stands in the place of the database while there is none.
 QString HowToBegin()
 {
-    return u"No lottery is open yet. To look around, open Sample.Lto with 'Open a File from Disk'.\n"
+    return u"No lottery is open yet.\n"
+           "To look around, open Sample.Lto with 'Open a File from Disk'.\n"
            "To keep your own lottery, start with 'View and Edit Database'."_s;
 }
 
@@ -105,8 +107,11 @@ void LotoMenu::resizeEvent(QResizeEvent* event)
     constexpr QSizeF kOpening(43, 31); // in heights of a line
     constexpr qreal kLargest = 1.5;
     const QSizeF lines = QSizeF(size()) / fontMetrics().height();
-    const qreal growth = std::clamp(
-        std::min(lines.width() / kOpening.width(), lines.height() / kOpening.height()), qreal(1), kLargest);
+    // In eighths: the room is never exactly the opening size, and each size of letters is a font to be
+    // loaded.
+    constexpr qreal kSteps = 8;
+    const qreal room = std::min(lines.width() / kOpening.width(), lines.height() / kOpening.height());
+    const qreal growth = std::clamp(std::floor(room * kSteps) / kSteps, qreal(1), kLargest);
     if (growth > 1 && !m_leastSize.isValid()) {
         m_leastSize = WorkingForm::minimumSizeHint();
     }
@@ -153,13 +158,21 @@ void LotoMenu::ShowFileInMemory()
     const DrawDatabase& database = Shared().database;
     m_ui->InfoLabel->setText(database.count == 0 ? QString()
                                                  : u" File in Memory \r\n  "_s + database.title + u"  "_s);
-    // A title of any length must not push the window wider or the buttons together; all of it is in the tip.
-    constexpr int kMostLines = 3;
-    m_ui->InfoLabel->setMaximumHeight(kMostLines * m_ui->InfoLabel->fontMetrics().lineSpacing());
-    SetLiteralToolTip(*m_ui->InfoLabel, database.title);
+    if (database.count != 0) { // not at the start, whose picture need not wait for another font
+        // A title of any length must not push the window wider or the buttons together; all of it is in the
+        // tip.
+        constexpr int kMostLines = 3;
+        m_ui->InfoLabel->setMaximumHeight(kMostLines * m_ui->InfoLabel->fontMetrics().lineSpacing());
+        SetLiteralToolTip(*m_ui->InfoLabel, database.title);
+    }
     m_ui->InfoLabel->setVisible(database.count != 0);
     const QString facts = DatabaseFacts(database, Shared().locale);
     m_ui->Facts->setText(facts.isEmpty() ? HowToBegin() : facts);
+    // Short lines stand as they are: to try how they might wrap would take a tenth of the start.
+    const bool wraps = !facts.isEmpty();
+    m_ui->Facts->setSizePolicy(wraps ? QSizePolicy::Ignored : QSizePolicy::Minimum, QSizePolicy::Preferred);
+    m_ui->Facts->setWordWrap(
+        wraps); // after it: this marks the policy as one whose height goes with the width
 }
 
 void LotoMenu::AddPanel(QWidget* panel)

@@ -103,6 +103,8 @@ void EveryForm::VisitDialogs(const std::function<void(QWidget& form, const QStri
 void EveryForm::Visit(const std::function<void(QWidget& form, const QString& name)>& look)
 {
     Start();
+    Settle();
+    look(m_window.Menu(), u"LotoMenu at the start"_s);
     m_shared.settings.userName = u"Zoë"_s;
     m_window.Menu().ShowUserName();
     FillDatabase(60);

@@ -8,8 +8,8 @@ class EveryForm : public FormBench
 public:
     EveryForm() { m_prompts.anythingGoes = true; }
 
-    /// Shows every form at the opening size and at 1280 x 800, then every dialog, and calls @p look with
-    /// each.
+    /// Shows the menu as it is at the start, every form at the opening size and at 1280 x 800, then every
+    /// dialog, and calls @p look with each.
     void Visit(const std::function<void(QWidget& form, const QString& name)>& look);
 
 private:

@@ -522,6 +522,23 @@ TEST_F(MainWindow, ADesktopWithLargeLettersGetsALargerWindow)
     QApplication::setFont(before);
 }
 
+TEST_F(MainWindow, TheMenusLettersAreTheDesktopsAtFirstAndGrowWithTheWindow)
+{
+    Start();
+    Settle();
+    const QList<QPushButton*> buttons = m_window.Menu().findChildren<QPushButton*>();
+    ASSERT_FALSE(buttons.isEmpty());
+    for (const QPushButton* button : buttons) {
+        EXPECT_EQ(button->font(), m_window.Menu().font()) << button->objectName().toStdString();
+    }
+    m_window.resize(1280, 960);
+    Settle();
+    for (const QPushButton* button : buttons) {
+        EXPECT_GT(button->font().pointSizeF(), m_window.Menu().font().pointSizeF() * 1.3)
+            << button->objectName().toStdString();
+    }
+}
+
 TEST_F(MainWindow, ASecondAccessKeyDoesNothingOnceTheMenuHasGivenWayToAForm)
 {
     Start();
