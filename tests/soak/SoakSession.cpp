@@ -21,6 +21,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -109,7 +110,8 @@ void SoakPrompts::FileDirectory()
 }
 
 SoakSession::SoakSession(const Setting& setting)
-    : m_setting(setting), m_dice(setting.dice), m_prompts(m_shared, m_dice, setting.files, setting.log),
+    : m_setting(setting), m_dice(setting.dice), m_goal(RandomGoal(setting.dice)),
+      m_prompts(m_shared, m_dice, setting.files, setting.log),
       m_window(m_shared, m_prompts, setting.programFolder),
       m_recovery(m_shared, m_prompts, m_window, setting.recoveryFolder,
                  {KeptDatabase(m_shared), KeptStatement(m_shared)})
@@ -221,9 +223,42 @@ void SoakSession::ActInWindow()
     } else if (m_dice.OneIn(300)) {
         m_setting.log(u"closes the window"_s);
         m_window.close();
+    } else if (m_dice.OneIn(4) && HeadForGoal(*form)) {
+        return;
     } else if (!m_dice.OneIn(6) || !ActWhole(*form)) {
         ActIn(*form);
     }
+}
+
+SoakSession::Goal SoakSession::RandomGoal(SoakDice& dice)
+{
+    static const std::array goals{Goal{u"Lottery"_s, u"PickForm"_s},   Goal{u"LHotCold"_s, u"PickForm"_s},
+                                  Goal{u"LCheckWin"_s, u"CheckWin"_s}, Goal{u"LGraph"_s, u"ShowGraph1"_s},
+                                  Goal{u"Extract"_s, u"SelectRec"_s},  Goal{u"ChangeFnt"_s, u"PtrFnt"_s},
+                                  Goal{u"LInvTrack"_s, u"InvTrack"_s}, Goal{u"LDbase"_s, u"DBaseForm"_s}};
+    return goals.at(static_cast<std::size_t>(dice.Below(static_cast<int>(goals.size()))));
+}
+
+/// Hands that move at random are mostly in the editor, which every opened file leads to, and where there is
+/// most to do.
+bool SoakSession::HeadForGoal(WorkingForm& form)
+{
+    const QString here = form.objectName();
+    QString button;
+    if (here == u"LotoMenu") {
+        button = m_shared.database.count == 0 ? u"LoadFile"_s : m_goal.menuButton;
+    } else if (here == u"Lottery" && m_goal.form == u"LHotCold") {
+        button = u"ShowHCD"_s;
+    } else if (here == u"LDbase" && m_goal.form != here && m_dice.OneIn(4)) {
+        button = u"DExit"_s;
+    }
+    auto* leads = form.findChild<QAbstractButton*>(button);
+    if (button.isEmpty() || leads == nullptr || !leads->isEnabled()) {
+        return false;
+    }
+    m_setting.log(u"heads for "_s + m_goal.form);
+    QTest::mouseClick(leads, Qt::LeftButton, {}, QPoint(8, leads->height() / 2));
+    return true;
 }
 
 /// What a user does in one go, and hands that move at random would hardly ever do.

@@ -80,6 +80,7 @@ private:
     void Close(QWidget& dialog);
     void ActInWindow();
     void ActIn(QWidget& window);
+    bool HeadForGoal(WorkingForm& form);
     bool ActWhole(WorkingForm& form);
     void TypeDraw(WorkingForm& form);
     void TypeRow(WorkingForm& form);
@@ -92,8 +93,16 @@ private:
     void CheckWindow();
     void Expect(bool holds, const QString& what);
 
+    /// The form or dialog that one run of the program is drawn to.
+    struct Goal {
+        QString form;
+        QString menuButton; ///< leads there, or to the form before it
+    };
+    [[nodiscard]] static Goal RandomGoal(SoakDice& dice);
+
     Setting m_setting;
     SoakDice& m_dice;
+    Goal m_goal;
     LGLOBAL m_shared;
     SoakPrompts m_prompts;
     MDIContainer m_window;
