@@ -443,7 +443,7 @@ bool Lottery::ListCandidates(const PickEntries& entries)
     }
     shared.sortMode = kSortedByValue;
     SortNumberStats(shared);
-    const int left = int(entries.left);
+    const int left = int(std::min(entries.left, kMostNumbers + 1.0)); // beyond the last: no position at all
     const int right = int(std::min(entries.right, double{kMostNumbers}));
     shared.CandidateNumbers = SortedPositions(shared.sortedNumberStats, left, right);
     m_fromNumbers = NumbersOfPositions(shared.CandidateNumbers);
