@@ -893,7 +893,7 @@ TEST_F(Editor, TheHelpGivesWayToTheRecordsWhenTheyChange)
     EXPECT_EQ(Find<QPushButton>(u"DHelp"_s).text(), u"Quick &Help"_s);
     Click(u"DHelp"_s);
     OnDialog([](QWidget& dialog) {
-        ClickIn(dialog, u"CorInsDel3"_s);
+        In<QAbstractButton>(dialog, u"CorInsDel3"_s).click();
         ClickIn(dialog, u"Accept"_s);
     });
     Click(u"DCorrectRec"_s);
