@@ -254,7 +254,6 @@ void LInvTrack::TakeLoaded(const InvestmentReading& loaded)
     Switcher().FileChanged();
     m_changed = false;
     if (!loaded.isCalculated) {
-        m_counted = CalculateStatement(loaded.statement->rows).value_or(*loaded.statement);
         m_uncounted = true;
         m_ui->IChange->show();
     }

@@ -219,6 +219,27 @@ TEST(Twips, AreFifteenToAPixelAtNinetySixDotsAnInch)
     EXPECT_EQ(PixelsToTwips(567, 96), 8505);
 }
 
+TEST_F(Dialogs, OverADialogAMessageStandsAsFarFromTheMainWindowAsElsewhere)
+{
+    m_window.move(100, 50);
+    QDialog settings(&m_window);
+    settings.setModal(true);
+    settings.move(300, 120);
+    settings.show();
+    const QPoint corner = m_window.frameGeometry().topLeft();
+    const auto offset = [&](const std::function<void()>& open) {
+        QPoint place;
+        WhenNextModalOpens([&](QWidget* box) {
+            place = box->pos() - corner;
+            QTest::keyClick(box, Qt::Key_Escape);
+        });
+        open();
+        return place;
+    };
+    EXPECT_EQ(offset([&] { Show(m_shared, m_prompts, {.number = 27}); }), QPoint(240, 133));
+    EXPECT_EQ(offset([&] { (void)Ask(m_shared, m_prompts, 1); }), QPoint(233, 133));
+}
+
 TEST_F(Dialogs, TheBusyPointerIsShownOnceAndTakenAwayOnce)
 {
     m_prompts.SetBusyPointer(true);

@@ -920,6 +920,32 @@ TEST_F(Editor, OpensAnewWithNothingLeftOfTheLastTime)
     Click(u"DBaseForm"_s);
     EXPECT_EQ(TextOf(u"Label4"_s), u"Showing the number of times drawn"_s);
     EXPECT_EQ(m_shared.topNumbersText, (std::array<QString, 4>{}));
+    for (const QString& grid : {u"DGrid2"_s, u"DGrid3"_s, u"DGrid4"_s}) {
+        EXPECT_EQ(Cell(grid, 0, 0), QString()) << grid.toStdString();
+    }
+    EXPECT_EQ(m_shared.NumberStats, NumberTable{});
+    EXPECT_EQ(m_shared.sortedNumberStats, NumberTable{});
+}
+
+TEST_F(Editor, TheHelpGivesWayToTheRecordsWhenTheyChange)
+{
+    FillDatabase(5);
+    OpenEditor();
+    const auto& records = Find<QTableView>(u"DGrid1"_s);
+    Click(u"DHelp"_s);
+    ASSERT_FALSE(records.isVisible());
+    TypeDraw({u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s});
+    Click(u"DCalc"_s);
+    EXPECT_EQ(m_shared.database.count, 6);
+    EXPECT_TRUE(records.isVisible());
+    EXPECT_EQ(Find<QPushButton>(u"DHelp"_s).text(), u"Quick &Help"_s);
+    Click(u"DHelp"_s);
+    OnDialog([](QWidget& dialog) {
+        In<QAbstractButton>(dialog, u"CorInsDel3"_s).click();
+        ClickIn(dialog, u"Accept"_s);
+    });
+    Click(u"DCorrectRec"_s);
+    EXPECT_TRUE(records.isVisible()) << "after a sort";
 }
 
 TEST_F(Editor, LinesOfTopNumbersDoNotOutliveTheirCounts)

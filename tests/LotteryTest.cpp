@@ -1541,6 +1541,19 @@ TEST_F(Selectorium, ATextPutIntoABoxWhileTheBallsRollChangesNothingOfWhatIsShown
     EXPECT_EQ(Box(u"InHighNum"_s).text(), u"60"_s);
 }
 
+TEST_F(Selectorium, APositionBeyondAllNumbersGivesNoSet)
+{
+    FillDatabase(30);
+    Open();
+    ChoosePositions(u"1"_s, u"25"_s);
+    Put(u"InStartNo"_s, u"100000000000"_s); // as an assistive program may, without the check on leaving
+    Put(u"InEndNo"_s, u"10000000000000"_s);
+    m_prompts.expectedMessages = {7};
+    Click(u"PCalc"_s);
+    EXPECT_EQ(m_shared.PickTable, SetTable{});
+    EXPECT_FALSE(TextOf(u"PickFrom"_s).contains(u'-'));
+}
+
 TEST_F(Selectorium, ASecondClickOfADoubleClickOnCalculateIsNotASecondCalculation)
 {
     Open();

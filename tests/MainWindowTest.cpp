@@ -423,6 +423,71 @@ TEST_F(MainWindow, AStatementNamedAtTheStartThatIsNotThereGivesItsMessageInTheTr
     EXPECT_EQ(m_shared.dialogFolder, QString());
 }
 
+TEST_F(MainWindow, NoTitleOfAFileMakesAFormWider)
+{
+    Start();
+    Settle();
+    FillDatabase(30);
+    const QSize before = m_window.size();
+    constexpr int kMillion = 1 << 20;
+    for (const QString& title :
+         {QString(100, u'W'), QString(kMillion, u'W'), u"Wide words "_s.repeated(kMillion / 11)}) {
+        m_shared.database.title = title;
+        for (const QString& button : {u"PickForm"_s, u"CheckWin"_s, u"ShowGraph1"_s, u"DBaseForm"_s}) {
+            m_window.ShowForm(FormName::LotoMenu);
+            Click(button);
+            Settle();
+            EXPECT_EQ(m_window.size(), before) << button.toStdString() << ' ' << title.left(10).toStdString();
+        }
+    }
+}
+
+TEST_F(MainWindow, AFileThatCannotBeOpenedLeavesNoCountsOfTheOneBefore)
+{
+    FillDatabase(30);
+    OpenEditor();
+    ASSERT_NE(Cell(u"DGrid2"_s, 0, 0), QString());
+    Click(u"DExit"_s);
+    m_prompts.expectedMessages = {13};
+    m_window.OpenNamedFile(m_folder.filePath(u"None.Lto"_s));
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+    for (const QString& grid : {u"DGrid2"_s, u"DGrid3"_s, u"DGrid4"_s}) {
+        EXPECT_EQ(Cell(grid, 0, 0), QString()) << grid.toStdString();
+    }
+}
+
+TEST_F(MainWindow, AFileHandedOverIsOpenedInTheMenu)
+{
+    WriteFile(u"Named.Lto"_s, kTwoDraws);
+    Start();
+    m_window.OpenHandedFile(m_folder.filePath(u"Named.Lto"_s));
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+    EXPECT_EQ(m_shared.database.fileName, u"Named.Lto"_s);
+    m_window.OpenHandedFile(m_folder.filePath(u"Named.Lto"_s));
+    EXPECT_EQ(m_prompts.notices,
+              QStringList{u"\"Named.Lto\" is not opened yet: go back to the menu first."_s});
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+}
+
+TEST_F(MainWindow, AFileHandedOverToTheTrackerNeverTakesAwayWhatWasTyped)
+{
+    WriteFile(u"Named.Lto"_s, kTwoDraws);
+    WriteFile(u"Named.inv"_s, "1\r\n\"Tickets\",-12\r\n");
+    Start();
+    Click(u"InvTrack"_s);
+    QTest::keyClicks(&Find<QTableView>(u"IGrid"_s), u"Mine"_s);
+    m_window.OpenHandedFile(m_folder.filePath(u"Named.Lto"_s));
+    EXPECT_EQ(m_prompts.notices.size(), 1);
+    EXPECT_EQ(FrontForm(), u"LInvTrack"_s);
+    m_prompts.answers = {true}; // go back and save
+    m_window.OpenHandedFile(m_folder.filePath(u"Named.inv"_s));
+    EXPECT_EQ(m_prompts.askedTexts.size(), 1);
+    EXPECT_EQ(Cell(u"IGrid"_s, 0, 0), u"Mine"_s);
+    m_prompts.answers = {false};
+    m_window.OpenHandedFile(m_folder.filePath(u"Named.inv"_s));
+    EXPECT_EQ(Cell(u"IGrid"_s, 0, 0), u"Tickets"_s);
+}
+
 TEST_F(MainWindow, AFileNamedAtTheStartThatIsNotThereLeavesTheFolderOfTheFileDialog)
 {
     Start();
