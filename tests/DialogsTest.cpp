@@ -306,6 +306,30 @@ TEST_F(FileDialogs, OpeningStartsOnTheFileInMemoryAndReturnsTheFullPath)
     EXPECT_EQ(m_shared.fileDialogMode, 1);
 }
 
+TEST_F(FileDialogs, EachModeOpensOrSavesUnderItsFilterAndProposesItsName)
+{
+    QFile statement(m_folder.filePath(u"Mine.inv"_s));
+    ASSERT_TRUE(statement.open(QIODevice::WriteOnly));
+    m_shared.database.fileName = u"Mine.Lto"_s;
+    m_shared.investmentFileName = u"Mine.inv"_s;
+    for (const int mode : {1, 2, 3, 4}) {
+        SCOPED_TRACE(mode);
+        m_shared.fileDialogMode = static_cast<qint16>(mode);
+        const QString name = FileDir::ProposedName(m_shared);
+        WhenModalOpens([&](QWidget* window) {
+            auto* dialog = qobject_cast<QFileDialog*>(window);
+            ASSERT_NE(dialog, nullptr);
+            EXPECT_EQ(dialog->acceptMode(),
+                      mode % 2 == 1 ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+            EXPECT_EQ(dialog->nameFilters(), QStringList{FileDir::Filter(qint16(mode))});
+            EXPECT_EQ(dialog->selectedNameFilter(), FileDir::Filter(qint16(mode)));
+            EXPECT_EQ(dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->text(), name);
+            dialog->close();
+        });
+        m_prompts.FileDirectory();
+    }
+}
+
 TEST_F(FileDialogs, SavingTakesTheNameAsItIsTyped)
 {
     m_shared.fileDialogMode = 2;

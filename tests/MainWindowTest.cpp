@@ -205,6 +205,31 @@ TEST_F(MainWindow, ThePrintoutShowsTheCountThatWasLastChosen)
     EXPECT_EQ(m_shared.linesPerPage, 56);
 }
 
+TEST_F(MainWindow, TheCountChosenInAFormReachesThePaper)
+{
+    struct Way {
+        QString open;
+        QString count;
+        QString exit;
+    };
+    Start();
+    FillDatabase(3);
+    for (const Way& way : {Way{u"DBaseForm"_s, u"WhichCnt"_s, u"DExit"_s},
+                           Way{u"ShowGraph1"_s, u"GWhichCnt"_s, u"ExitGrp"_s}}) {
+        m_shared.WhichCnt = CountMode::TimesDrawn;
+        m_prompts.printed.clear();
+        Click(way.open);
+        ClickBox(way.count);
+        Click(way.exit);
+        m_prompts.answers = {true};
+        Click(u"PrintDbase"_s);
+        ASSERT_EQ(m_prompts.printed.size(), 1U) << way.open.toStdString();
+        const QString text = PagesText(m_prompts.printed.front());
+        EXPECT_TRUE(text.contains(u"Number of draws since last drawn"_s)) << way.open.toStdString();
+        EXPECT_FALSE(text.contains(u"Showing the count of times numbers drawn"_s)) << way.open.toStdString();
+    }
+}
+
 TEST_F(MainWindow, TheEditorTakesTheMenusPlaceAndGivesItBack)
 {
     Start();
@@ -319,6 +344,47 @@ TEST_F(MainWindow, SavingAnEmptyDatabaseSaysNoRecordsAndShowsTheMenu)
     Click(u"SaveFile"_s);
     EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
     EXPECT_EQ(m_shared.database.modified, 0);
+}
+
+TEST_F(MainWindow, TheMenuIsHiddenWhileAFileIsChosen)
+{
+    Start();
+    FillDatabase(3);
+    int dialogs = 0;
+    m_prompts.onFileDialog = [&] {
+        ++dialogs;
+        EXPECT_FALSE(m_window.Menu().isVisible());
+        EXPECT_EQ(FrontForm(), QString());
+    };
+    for (const QString& file : {m_folder.filePath(u"New.Lto"_s), QString()}) {
+        m_prompts.files = {file};
+        Click(u"SaveFile"_s);
+        EXPECT_TRUE(m_window.Menu().isVisible());
+        EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
+        m_prompts.files = {file};
+        Click(u"LoadFile"_s);
+        EXPECT_FALSE(m_window.Menu().isVisible());
+        EXPECT_EQ(FrontForm(), u"LDbase"_s);
+        Click(u"DExit"_s);
+    }
+    EXPECT_EQ(dialogs, 4);
+}
+
+TEST_F(MainWindow, TheMenuIsHiddenBehindTheMessagesOfOpeningAndSaving)
+{
+    Start();
+    int messages = 0;
+    m_prompts.onMessage = [&] {
+        ++messages;
+        EXPECT_FALSE(m_window.Menu().isVisible()) << m_shared.messageNumber;
+        EXPECT_EQ(FrontForm(), QString()) << m_shared.messageNumber;
+    };
+    m_prompts.expectedMessages = {15, 13};
+    Click(u"SaveFile"_s);
+    EXPECT_TRUE(m_window.Menu().isVisible());
+    m_prompts.files = {m_folder.filePath(u"Nowhere.Lto"_s)};
+    Click(u"LoadFile"_s);
+    EXPECT_EQ(messages, 2);
 }
 
 TEST_F(MainWindow, AFileNamedAtTheStartOpensWithoutADialog)
@@ -536,6 +602,19 @@ TEST_F(MainWindow, FormsStandAtTheirPlacesInBothLayouts)
     m_window.resize(641, 458);
     Settle();
     EXPECT_EQ(menu.pos(), QPoint(-4, -2));
+}
+
+TEST_F(MainWindow, TheSelectoriumStandsAtItsPlaceInBothLayouts)
+{
+    Start();
+    Click(u"PickForm"_s);
+    EXPECT_EQ(Find<QWidget>(u"Lottery"_s).pos(), QPoint(-4, -2));
+    Click(u"PExit"_s);
+    m_window.resize(1280, 800);
+    Settle();
+    Click(u"PickForm"_s);
+    EXPECT_EQ(Find<QWidget>(u"Lottery"_s).pos(), QPoint(80, 67));
+    EXPECT_EQ(Find<QWidget>(u"Lottery"_s).size(), QSize(1280 - 160, 800 - 134));
 }
 
 TEST_F(MainWindow, EveryControlOfTheMenuAndTheEditorFitsTheOpeningSize)
