@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 QString ShownTitle(const DrawDatabase& database)
 {
-    constexpr qsizetype kLongest = 1000;
+    constexpr qsizetype kLongest = 10000;
     return database.title.left(kLongest);
 }
 

@@ -990,6 +990,22 @@ TEST_F(InvestmentTracker, AFileThatIsNotAsItWasCalculatedSaysSoPrintsWhatItCount
     }
 }
 
+TEST_F(InvestmentTracker, ADescriptionOfAnyLengthIsKeptWholeAndShownInPart)
+{
+    Open();
+    const QByteArray description(1 << 20, 'W');
+    PlaceFile(u"Long.inv"_s, "1\r\n\"" + description + "\",1\r\n");
+    Load(u"Long.inv"_s);
+    EXPECT_EQ(At(1, kText), QString(1000, u'W'));
+    EXPECT_EQ(m_shared.InvestmentRows.at(1).description.size(), 1 << 20);
+    SaveAs(u"Saved.inv"_s);
+    EXPECT_TRUE(Bytes(u"Saved.inv"_s).startsWith("1\r\n\"" + description + "\",1\r\n"));
+    m_shared.settings.userName = QString(1 << 20, u'@');
+    m_prompts.answers = {true};
+    Click(u"IPrinter"_s);
+    EXPECT_EQ(PagesText(m_prompts.printed.back()).count(u'@'), 200);
+}
+
 TEST_F(InvestmentTracker, LeavingWhatWasLoadedAndNotTouchedDoesNotAsk)
 {
     Open();
