@@ -1,15 +1,9 @@
 #include "app/DatabaseRecovery.h"
 
-#include "app/FieldWriter.h"
 #include "app/LotteryFile.h"
 #include "app/WorkFingerprint.h"
 
 namespace {
-
-bool FitsLotteryFile(const QString& title)
-{
-    return FitsFileText(title) && !title.contains(u'"');
-}
 
 Outcome WriteCopy(const LGLOBAL& shared, QByteArray& bytes, RecoveryNote& note)
 {
@@ -18,12 +12,12 @@ Outcome WriteCopy(const LGLOBAL& shared, QByteArray& bytes, RecoveryNote& note)
     note.folder = shared.databaseOnDisk.folder;
     note.title = database.title;
     note.records = database.count;
-    if (FitsLotteryFile(database.title)) {
-        return WriteLotteryFile(database, shared.locale, bytes, NoDates::AreWrittenAsHeld);
+    if (!database.title.contains(u'"')) {
+        return WriteLotteryFile(database, shared.locale, bytes, WrittenFor::ARecoveryCopy);
     }
     DrawDatabase untitled = database; // the note has the title
     untitled.title.clear();
-    return WriteLotteryFile(untitled, shared.locale, bytes, NoDates::AreWrittenAsHeld);
+    return WriteLotteryFile(untitled, shared.locale, bytes, WrittenFor::ARecoveryCopy);
 }
 
 } // namespace

@@ -19,10 +19,11 @@ KeptWork KeptStatement(const LGLOBAL& shared)
         // Typed over since they were counted, the rows may add up to more than a file may say it counted.
         const bool canBeCounted =
             TotalOf(shared.InvestmentRows, static_cast<int>(shared.InvestmentRowCount)).has_value();
-        return WriteInvestmentFile({.rows = shared.InvestmentRows,
-                                    .rowCount = canBeCounted ? shared.InvestmentRowCount : 0,
-                                    .total = {}},
-                                   bytes);
+        const InvestmentStatement statement{.rows = shared.InvestmentRows,
+                                            .rowCount = canBeCounted ? shared.InvestmentRowCount : 0,
+                                            .total = {}};
+        const Outcome written = WriteInvestmentFile(statement, bytes);
+        return written.ok ? written : WriteInvestmentFile(statement, bytes, FileText::Utf8);
     };
     return {.kind = WorkKind::Statement, .unsaved = unsaved, .write = write};
 }

@@ -4,6 +4,7 @@
 #include "app/LotteryFile.h"
 #include "app/LotteryFileCommands.h"
 #include "app/SafeFile.h"
+#include "invest/StatementRecovery.h"
 #include "tests/CannedPrompts.h"
 #include "tests/StatePrinters.h"
 #include "tests/TestFiles.h"
@@ -523,6 +524,48 @@ TEST_F(KeptDatabaseTest, ATitleThatNoFileCanHoldComesBack)
         untitled.database.title.clear();
         EXPECT_EQ(LotteryBytes(untitled.database), LotteryBytes(m_shared.database));
     }
+}
+
+TEST_F(KeptDatabaseTest, WhateverItsFieldsHoldComesBackToTheLastCharacter)
+{
+    m_shared.database = MadeUpDatabase(6, 49, 2);
+    for (const QString& text : {u"\u20AC 5"_s, u"some day"_s, u"\U0001F340"_s, u"in \"quotes\""_s,
+                                u"\"quoted"_s, u"#1\"#"_s, u"7"_s}) {
+        m_shared.database.records.at(1).date = text;
+        m_shared.database.records.at(2).drawn.at(0) = text;
+        m_shared.database.drawDays.at(3).carried = text;
+        m_shared.database.drawDays.at(4).weekday = text;
+        const LGLOBAL recovered = Recovered();
+        EXPECT_EQ(CellText(recovered.database.records.at(1).date), text);
+        EXPECT_TRUE(recovered.database.records.at(2).drawn.at(0) == Cell(text)) << text.toStdString();
+        EXPECT_TRUE(recovered.database.drawDays.at(3).carried == Cell(text)) << text.toStdString();
+        EXPECT_TRUE(recovered.database.drawDays.at(4).weekday == Cell(text)) << text.toStdString();
+    }
+}
+
+TEST_F(KeptDatabaseTest, WhatFitsALotteryFileIsWrittenAsOne)
+{
+    m_shared.database = MadeUpDatabase(6, 49, 2);
+    QByteArray bytes;
+    RecoveryNote note;
+    ASSERT_TRUE(m_work.write(bytes, note).ok);
+    EXPECT_EQ(bytes, LotteryBytes(m_shared.database));
+}
+
+TEST(KeptStatementTest, ADescriptionThatNoFileCanHoldComesBack)
+{
+    LGLOBAL shared;
+    shared.InvestmentRows.at(1) = {.description = u"Tickets, 5 \u20AC"_s,
+                                   .amount = Currency::FromText(u"-12.5"_s)};
+    shared.InvestmentRowCount = 1;
+    QByteArray bytes;
+    RecoveryNote note;
+    const Outcome written = KeptStatement(shared).write(bytes, note);
+    ASSERT_TRUE(written.ok) << written.reason.toStdString();
+    LGLOBAL recovered;
+    const InvestmentReading reading = ReadRecoveredStatement(recovered, WithoutNote(WithNote(bytes, note)));
+    ASSERT_TRUE(reading.statement.has_value());
+    EXPECT_EQ(reading.statement->rows, shared.InvestmentRows);
 }
 
 TEST_F(KeptDatabaseTest, ADateThatIsNoneComesBackAsItWas)
