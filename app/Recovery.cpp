@@ -17,7 +17,7 @@ Recovery::Recovery(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, QStr
 {
     connect(&m_keeper, &RecoveryKeeper::Failed, this, &Recovery::TellTrouble);
     connect(&m_keeper, &RecoveryKeeper::Kept, this, [this] {
-        if (m_trouble != nullptr) {
+        if (m_trouble != nullptr && !m_keeper.IsFailing()) {
             m_trouble->hide();
         }
     });

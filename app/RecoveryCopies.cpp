@@ -34,6 +34,12 @@ constexpr qint64 kSilentSeconds = 600;
 constexpr qint64 kSweptAfterSeconds = qint64{24} * 3600;
 constexpr QFile::Permissions kFolderOfOwner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
 
+/// Names nobody else takes.
+QString NameOfARun()
+{
+    return QUuid::createUuid().toString(QUuid::Id128);
+}
+
 QString EndingOf(WorkKind kind)
 {
     return kind == WorkKind::Database ? u".Lto"_s : u".inv"_s;
@@ -272,7 +278,7 @@ QString UsualRecoveryFolder()
 }
 
 OwnRecoveryCopies::OwnRecoveryCopies(QString folder, QString host)
-    : m_folder(std::move(folder)), m_host(std::move(host)), m_run(QUuid::createUuid().toString(QUuid::Id128))
+    : m_folder(std::move(folder)), m_host(std::move(host)), m_run(NameOfARun())
 {}
 
 OwnRecoveryCopies::~OwnRecoveryCopies() = default;
@@ -287,9 +293,10 @@ Outcome OwnRecoveryCopies::MakeFolderAndLock()
     if (Outcome made = MakeFolder(m_folder); !made.ok) {
         return made;
     }
-    if (m_lock != nullptr) {
+    if (m_lock != nullptr && QFile::exists(m_lock->fileName())) {
         return {};
     }
+    m_lock.reset(); // before there is a new one, because it removes the file of that name
     auto lock = std::make_unique<QLockFile>(LockOf(m_folder, m_run));
     lock->setStaleLockTime(0);
     if (!lock->tryLock(0)) {
@@ -314,10 +321,34 @@ Outcome OwnRecoveryCopies::Remove(WorkKind kind)
     if (copy.exists() && !copy.remove()) {
         return Outcome::Failure(copy.errorString());
     }
+    FreeLockWithout(kind);
+    return {};
+}
+
+/// Once there is no copy of that kind, and none of the other either, the lock is of no use.
+void OwnRecoveryCopies::FreeLockWithout(WorkKind kind)
+{
     const WorkKind other = kind == WorkKind::Database ? WorkKind::Statement : WorkKind::Database;
     if (!QFile::exists(PathOf(other))) {
         m_lock.reset();
     }
+}
+
+bool OwnRecoveryCopies::AreThere(WorkKind kind) const
+{
+    return m_lock != nullptr && QFile::exists(m_lock->fileName()) && QFile::exists(PathOf(kind));
+}
+
+Outcome OwnRecoveryCopies::SetAside(WorkKind kind, LeftCopy& aside)
+{
+    const QString name = NameOfARun();
+    QFile copy(PathOf(kind));
+    const QString path = QDir(m_folder).filePath(name + EndingOf(kind));
+    if (!copy.rename(path)) {
+        return Outcome::Failure(copy.errorString());
+    }
+    aside = CopyIn(QFileInfo(path), name).value_or(LeftCopy{.path = path, .kind = kind});
+    FreeLockWithout(kind);
     return {};
 }
 

@@ -48,6 +48,14 @@ struct RecoveredWork {
 /// absolute path; on other systems in the user's own folder for programs' data.
 [[nodiscard]] QString UsualRecoveryFolder();
 
+/// A copy that was left behind.
+struct LeftCopy {
+    QString path;
+    WorkKind kind = WorkKind::Database;
+    std::optional<RecoveryNote> note{}; ///< nothing when the copy is not whole
+    QDateTime time{};                   ///< when it was made; of a damaged one, when its file was written
+};
+
 /// The copies of this run, one of each kind at most. They go with Remove; a run that ends without it leaves
 /// them. One object may be used from any thread, one call at a time.
 class OwnRecoveryCopies
@@ -65,6 +73,13 @@ public:
     /// Removes the copy of that kind. Nothing to remove is a success.
     [[nodiscard]] Outcome Remove(WorkKind kind);
 
+    /// Whether the copy of that kind and the lock, which says that it is this run's, are in the folder.
+    [[nodiscard]] bool AreThere(WorkKind kind) const;
+
+    /// Gives the copy of that kind a name of its own and no lock: from now on it is one that was left, and
+    /// this run has none of that kind. @param aside  the copy under its new name
+    [[nodiscard]] Outcome SetAside(WorkKind kind, LeftCopy& aside);
+
     /// Shows computers that share the folder and not its locks that this run lives: to be called now and then
     /// while there is a copy.
     void Renew() const;
@@ -76,19 +91,12 @@ public:
 private:
     [[nodiscard]] QString PathOf(WorkKind kind) const;
     [[nodiscard]] Outcome MakeFolderAndLock();
+    void FreeLockWithout(WorkKind kind);
 
     QString m_folder;
     QString m_host;
     QString m_run;
     std::unique_ptr<QLockFile> m_lock;
-};
-
-/// A copy that was left behind.
-struct LeftCopy {
-    QString path;
-    WorkKind kind = WorkKind::Database;
-    std::optional<RecoveryNote> note{}; ///< nothing when the copy is not whole
-    QDateTime time{};                   ///< when it was made; of a damaged one, when its file was written
 };
 
 /// What runs that ended uncleanly left in the folder, the latest first. Copies of runs that still live are

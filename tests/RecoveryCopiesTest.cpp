@@ -171,6 +171,20 @@ TEST(OwnRecoveryCopies, RemovedTheyLeaveNothing)
     EXPECT_EQ(NamesIn(folder.path()), QStringList());
 }
 
+TEST(OwnRecoveryCopies, WrittenAgainIntoAFolderThatWasEmptiedTheyAreStillThisRuns)
+{
+    const QTemporaryDir home;
+    const QString folder = home.filePath(u"recovery"_s);
+    OwnRecoveryCopies run(folder, kHere);
+    ASSERT_TRUE(run.Keep(WorkKind::Database, "1\r\n").ok);
+    ASSERT_TRUE(QDir(folder).removeRecursively());
+    ASSERT_TRUE(run.Keep(WorkKind::Database, "2\r\n").ok);
+    EXPECT_EQ(NamesIn(folder), QStringList({run.Run() + u".Lto"_s, run.Run() + u".lock"_s}));
+    EXPECT_TRUE(FindLeftCopies(folder, kHere, Later(0)).empty()) << "another program would offer it";
+    EXPECT_TRUE(run.Remove(WorkKind::Database).ok);
+    EXPECT_EQ(NamesIn(folder), QStringList());
+}
+
 TEST(OwnRecoveryCopies, AFolderThatCannotBeMadeIsAFailureWithAReason)
 {
     const QTemporaryDir home;

@@ -11,9 +11,12 @@
 
 #include <QCloseEvent>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
 
 #include <algorithm>
+#include <array>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -264,6 +267,121 @@ TEST_F(Keeping, TroubleIsToldOnceInTheMenuAndNoDialogOpens)
     ASSERT_TRUE(QFile::remove(m_folder.filePath(u"state"_s)));
     EXPECT_TRUE(m_recovery.Keeper().KeepNow().ok);
     EXPECT_TRUE(Find<QLabel>(u"RecoveryTrouble"_s).isHidden()) << "it works again";
+}
+
+/// Two works that a test makes unsaved as it likes.
+class TwoWorks : public testing::Test
+{
+protected:
+    static constexpr auto kPause = 2ms;
+
+    KeptWork WorkOf(WorkKind kind, std::size_t index)
+    {
+        return {.kind = kind,
+                .unsaved = [this, index] { return m_unsaved.at(index)(); },
+                .write =
+                    [this, index](QByteArray& bytes, RecoveryNote&) {
+                        ++m_written.at(index);
+                        bytes = "1\r\n";
+                        return m_outcome.at(index);
+                    }};
+    }
+    static std::function<std::optional<quint64>()> Always(std::optional<quint64> unsaved)
+    {
+        return [unsaved] { return unsaved; };
+    }
+    [[nodiscard]] QStringList Names(const QString& ending) const
+    {
+        return NamesIn(m_copies).filter(QRegularExpression(u"\\."_s + ending + u'$'));
+    }
+    [[nodiscard]] bool WaitForKept(qsizetype databases, qsizetype statements) const
+    {
+        return QTest::qWaitFor([&] {
+            return Names(u"Lto"_s).size() == databases && Names(u"inv"_s).size() == statements &&
+                   Names(u"lock"_s).size() == (databases + statements > 0 ? 1 : 0);
+        });
+    }
+
+    /// Begins, and waits until the writer has done with both.
+    void KeepBoth()
+    {
+        QSignalSpy kept(&m_keeper, &RecoveryKeeper::Kept);
+        m_keeper.Start(kPause);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return kept.count() == 2; }));
+        ASSERT_TRUE(WaitForKept(1, 1));
+    }
+
+    QTemporaryDir m_folder;
+    QString m_copies = m_folder.filePath(u"recovery"_s);
+    std::array<std::function<std::optional<quint64>()>, 2> m_unsaved{Always(1), Always(1)};
+    std::array<Outcome, 2> m_outcome;
+    std::array<int, 2> m_written{};
+    RecoveryKeeper m_keeper{
+        m_copies, u"here"_s, {WorkOf(WorkKind::Database, 0), WorkOf(WorkKind::Statement, 1)}};
+};
+
+TEST_F(TwoWorks, NoCopyIsRemovedWhileAnotherIsBeingWritten)
+{
+    m_unsaved.at(0) = Always(std::nullopt);
+    m_keeper.Start(kPause);
+    ASSERT_TRUE(WaitForKept(0, 1));
+    // In the same look the first is no longer saved and the second is.
+    bool wasWritten = false;
+    m_unsaved.at(1) = [&]() -> std::optional<quint64> {
+        if (m_written.at(0) > 0 && !Names(u"inv"_s).isEmpty()) {
+            QTest::qSleep(50);
+            wasWritten = wasWritten || !Names(u"Lto"_s).isEmpty();
+        }
+        return std::nullopt;
+    };
+    m_unsaved.at(0) = Always(2);
+    ASSERT_TRUE(WaitForKept(1, 0)) << NamesIn(m_copies).join(u' ').toStdString();
+    QTest::qWait(20);
+    EXPECT_FALSE(wasWritten) << "the copy of the second was still to go";
+    EXPECT_EQ(Names(u"lock"_s).size(), 1);
+    EXPECT_TRUE(FindLeftCopies(m_copies, u"here"_s, QDateTime::currentDateTimeUtc()).empty());
+}
+
+TEST_F(TwoWorks, OneThatCannotBeWrittenDoesNotHoldUpTheOther)
+{
+    m_outcome.at(0) = Outcome::Failure(u"no place for it"_s);
+    QSignalSpy failed(&m_keeper, &RecoveryKeeper::Failed);
+    m_keeper.Start(kPause);
+    ASSERT_TRUE(WaitForKept(0, 1));
+    QTest::qWait(20);
+    EXPECT_EQ(m_written.at(0), 1) << "it is tried again after a while only";
+    m_unsaved.at(1) = Always(2);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_written.at(1) == 2; }));
+    EXPECT_EQ(failed.count(), 1);
+}
+
+TEST_F(TwoWorks, KeepNowTriesAllAndTellsTheFirstFailure)
+{
+    m_outcome.at(0) = Outcome::Failure(u"no place for it"_s);
+    const Outcome kept = m_keeper.KeepNow();
+    EXPECT_FALSE(kept.ok);
+    EXPECT_EQ(kept.reason, u"no place for it"_s);
+    EXPECT_EQ(Names(u"inv"_s).size(), 1);
+    m_outcome.at(1) = Outcome::Failure(u"another"_s);
+    EXPECT_EQ(m_keeper.KeepNow().reason, u"no place for it"_s);
+}
+
+TEST_F(TwoWorks, AFolderThatIsEmptiedIsFilledAgainWithItsLock)
+{
+    KeepBoth();
+    ASSERT_TRUE(QDir(m_copies).removeRecursively());
+    EXPECT_TRUE(WaitForKept(1, 1)) << "nothing has changed, but the copies are gone";
+    EXPECT_TRUE(FindLeftCopies(m_copies, u"here"_s, QDateTime::currentDateTimeUtc()).empty());
+}
+
+TEST_F(TwoWorks, ALockThatIsGoneComesBack)
+{
+    KeepBoth();
+    ASSERT_TRUE(QFile::remove(m_copies + u'/' + Names(u"lock"_s).value(0)));
+    EXPECT_TRUE(WaitForKept(1, 1));
+    EXPECT_TRUE(FindLeftCopies(m_copies, u"here"_s, QDateTime::currentDateTimeUtc()).empty());
+    m_keeper.EndCleanly();
+    EXPECT_EQ(NamesIn(m_copies), QStringList());
 }
 
 class Offering : public RecoveryBench
