@@ -21,6 +21,7 @@
 #ifndef Q_OS_WIN
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -75,6 +76,27 @@ RecoveryNote NoteFromText(const QByteArray& text)
             .host = values.value(u"host"_s).toString()};
 }
 
+/// What lies in a folder of another user is his to read and to change, and a link may lead to anything.
+Outcome CheckFolder(const QString& folder)
+{
+#ifdef Q_OS_WIN
+    const QFileInfo info(folder);
+    const bool isFolder = info.isDir() && !info.isSymbolicLink() && !info.isJunction();
+    const bool isOwn = true; // in the user's own folder for programs' data, which others cannot enter
+#else
+    struct stat info {};
+    if (lstat(QFile::encodeName(QDir::cleanPath(folder)).constData(), &info) != 0) {
+        return Outcome::Failure(qt_error_string(errno));
+    }
+    const bool isFolder = S_ISDIR(info.st_mode);
+    const bool isOwn = info.st_uid == geteuid();
+#endif
+    if (!isFolder) {
+        return Outcome::Failure(u"\"%1\" is in the place of the folder."_s.arg(folder));
+    }
+    return isOwn ? Outcome{} : Outcome::Failure(u"The folder \"%1\" is another user's."_s.arg(folder));
+}
+
 /// Makes the folder for the user alone, or makes an older one so.
 Outcome MakeFolder(const QString& folder)
 {
@@ -85,6 +107,9 @@ Outcome MakeFolder(const QString& folder)
         if (!made && !QFileInfo::exists(folder)) { // another run may have made it meanwhile
             return Outcome::Failure(u"The folder \"%1\" cannot be made."_s.arg(folder));
         }
+    }
+    if (Outcome checked = CheckFolder(folder); !checked.ok) {
+        return checked;
     }
     constexpr QFile::Permissions kOfOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
                                              QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
@@ -365,6 +390,9 @@ void OwnRecoveryCopies::Renew() const
 std::vector<LeftCopy> FindLeftCopies(const QString& folder, const QString& host, const QDateTime& now)
 {
     std::vector<LeftCopy> left;
+    if (!CheckFolder(folder).ok) {
+        return left;
+    }
     const QHash<QString, QFileInfoList> runs = FilesOfRuns(folder);
     for (auto run = runs.cbegin(); run != runs.cend(); ++run) {
         if (RunLives(folder, run.key(), run.value(), {host, now})) {

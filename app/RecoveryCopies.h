@@ -67,7 +67,8 @@ public:
     Q_DISABLE_COPY_MOVE(OwnRecoveryCopies)
 
     /// Writes the copy of that kind, in the place of the one before, which is whole until then. Makes the
-    /// folder when it is not there; folder and files are the user's alone.
+    /// folder when it is not there; folder and files are the user's alone. Fails where the folder is not a
+    /// folder of this user, but a link or another's.
     [[nodiscard]] Outcome Keep(WorkKind kind, const QByteArray& copy);
 
     /// Removes the copy of that kind. Nothing to remove is a success.
@@ -103,6 +104,7 @@ private:
 /// not among them, whatever process has which number: a lock is free once its process is gone. Where another
 /// computer's locks cannot be seen, its run counts as living for ten minutes after its last sign.
 /// Sweeps out what interrupted writes left there a day ago.
+/// A folder that Keep would refuse is not looked into.
 /// @param now  in UTC
 [[nodiscard]] std::vector<LeftCopy> FindLeftCopies(const QString& folder, const QString& host,
                                                    const QDateTime& now);

@@ -156,6 +156,88 @@ TEST(OwnRecoveryCopies, AnOlderFolderThatIsOpenToOthersIsClosed)
     EXPECT_FALSE(QFile::permissions(folder) & (QFile::ReadOther | QFile::ExeOther | QFile::ExeGroup));
 }
 
+TEST(OwnRecoveryCopies, AFileInTheFoldersPlaceIsLeftAsItIsAndTold)
+{
+    const QTemporaryDir home;
+    const QString path = home.filePath(u"recovery"_s);
+    Place(path, "in the way");
+    const QFile::Permissions before = QFile::permissions(path);
+    OwnRecoveryCopies run(path, kHere);
+    const Outcome kept = run.Keep(WorkKind::Database, "1\r\n");
+    EXPECT_FALSE(kept.ok);
+    EXPECT_TRUE(kept.reason.contains(path)) << kept.reason.toStdString();
+    EXPECT_EQ(QFile::permissions(path), before);
+    EXPECT_EQ(BytesOf(path), "in the way");
+    EXPECT_TRUE(FindLeftCopies(path, kHere, Later(0)).empty());
+}
+
+#ifdef Q_OS_UNIX
+TEST(OwnRecoveryCopies, ALinkToAFolderIsNotFollowed)
+{
+    const QTemporaryDir home;
+    const QTemporaryDir elsewhere;
+    LeaveCopy(elsewhere.path(), WorkKind::Database, WithNote("1\r\n", ANote()));
+    const QStringList names = NamesIn(elsewhere.path());
+    ASSERT_EQ(chmod(QFile::encodeName(elsewhere.path()).constData(), 0755), 0);
+    const QString path = home.filePath(u"recovery"_s);
+    ASSERT_TRUE(QFile::link(elsewhere.path(), path));
+    for (const QString& folder : {path, path + u'/'}) {
+        OwnRecoveryCopies run(folder, kHere);
+        EXPECT_FALSE(run.Keep(WorkKind::Database, "1\r\n").ok);
+        EXPECT_TRUE(FindLeftCopies(folder, kHere, Later(0)).empty());
+    }
+    EXPECT_EQ(NamesIn(elsewhere.path()), names);
+    EXPECT_TRUE(QFile::permissions(elsewhere.path()) & QFile::ReadOther) << "as it was";
+}
+
+TEST(OwnRecoveryCopies, AnotherUsersFolderIsNotUsed)
+{
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "nobody else's folder can be made";
+    }
+    const QTemporaryDir home;
+    const QString folder = home.filePath(u"recovery"_s);
+    LeaveCopy(folder, WorkKind::Database, WithNote("1\r\n", ANote()));
+    const QByteArray name = QFile::encodeName(folder);
+    constexpr uid_t kNobody = 65534;
+    ASSERT_EQ(chown(name.constData(), kNobody, kNobody), 0);
+    ASSERT_EQ(chmod(name.constData(), 0777), 0);
+    const QStringList names = NamesIn(folder);
+    OwnRecoveryCopies run(folder, kHere);
+    const Outcome kept = run.Keep(WorkKind::Database, "1\r\n");
+    EXPECT_FALSE(kept.ok);
+    EXPECT_TRUE(kept.reason.contains(u"another user"_s)) << kept.reason.toStdString();
+    EXPECT_EQ(NamesIn(folder), names);
+    EXPECT_TRUE(QFile::permissions(folder) & QFile::WriteOther) << "as it was";
+    EXPECT_TRUE(FindLeftCopies(folder, kHere, Later(0)).empty());
+}
+#endif
+
+TEST(OwnRecoveryCopies, SetAsideTheyAreLeftOnesAndTheRunGoesOnWithoutThem)
+{
+    const QTemporaryDir folder;
+    OwnRecoveryCopies run(folder.path(), kHere);
+    LeftCopy aside;
+    EXPECT_FALSE(run.SetAside(WorkKind::Database, aside).ok) << "there is none";
+    ASSERT_TRUE(run.Keep(WorkKind::Database, WithNote("1\r\n", ANote())).ok);
+    ASSERT_TRUE(run.Keep(WorkKind::Statement, WithNote("2\r\n", ANote())).ok);
+    ASSERT_TRUE(run.SetAside(WorkKind::Database, aside).ok);
+    EXPECT_FALSE(run.AreThere(WorkKind::Database));
+    EXPECT_TRUE(run.AreThere(WorkKind::Statement));
+    std::vector<LeftCopy> left = LeftIn(folder);
+    ASSERT_EQ(left.size(), 1U);
+    EXPECT_EQ(left.at(0).path, aside.path);
+    EXPECT_TRUE(left.at(0).note == aside.note);
+    EXPECT_TRUE(aside.note == ANote());
+    EXPECT_EQ(aside.time, ANote().time);
+    ASSERT_TRUE(run.Keep(WorkKind::Database, WithNote("3\r\n", ANote())).ok);
+    ASSERT_TRUE(run.SetAside(WorkKind::Database, aside).ok);
+    EXPECT_EQ(LeftIn(folder).size(), 2U) << "each has a name of its own";
+    ASSERT_TRUE(run.Remove(WorkKind::Statement).ok);
+    EXPECT_TRUE(NamesIn(folder.path()).filter(u".lock"_s).isEmpty());
+    EXPECT_EQ(LeftIn(folder).size(), 2U);
+}
+
 TEST(OwnRecoveryCopies, RemovedTheyLeaveNothing)
 {
     const QTemporaryDir folder;
