@@ -89,16 +89,18 @@ void Recovery::OpenOffered()
         return;
     }
     m_left.pop_front();
-    // Only when this run's own copy is on the disk, the one that was left may go.
-    if (m_keeper.KeepNow().ok) {
-        (void)RemoveLeftCopy(
-            copy); // one that cannot be removed is offered again: better twice than not at all
+    // Only when all of it is in this run's own copy, and that is on the disk, the one that was left may go.
+    // One that cannot be removed is offered again: better twice than not at all.
+    const bool isKept = m_keeper.HasUnsaved(copy.kind) && m_keeper.KeepNow().ok;
+    if (work.note && isKept) {
+        (void)RemoveLeftCopy(copy);
     }
     OfferNext();
     if (!work.note) {
         m_prompts.Notice(
-            u"The copy was damaged. What could be read of it is shown: look through it before you "
-            "save it."_s);
+            u"The copy was damaged. What could be read of it is shown: look through it before you save it."
+            "\n\nThe copy itself stays, and is offered again at the next start, until it is discarded: %1"_s
+                .arg(QDir::toNativeSeparators(copy.path)));
     }
 }
 

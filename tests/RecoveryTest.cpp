@@ -91,6 +91,12 @@ protected:
         return std::any_of(offers.cbegin(), offers.cend(),
                            [](const RecoveryOffer* offer) { return offer->isVisible(); });
     }
+    /// A widget of the panel that was added last: a second program in the same window has one of its own.
+    template <typename Widget>
+    Widget& InLastOffer(const QString& name)
+    {
+        return In<Widget>(*m_window.findChildren<RecoveryOffer*>().last(), name);
+    }
     [[nodiscard]] QByteArray StatementBytes() const
     {
         QByteArray bytes;
@@ -586,6 +592,47 @@ TEST_F(Offering, ADamagedCopyGivesWhatCanBeReadAndSaysSo)
     EXPECT_EQ(m_shared.database.count, 12);
     ASSERT_EQ(m_prompts.notices.size(), 1);
     EXPECT_TRUE(m_prompts.notices.front().contains(u"damaged"_s));
+}
+
+TEST_F(Offering, ADamagedCopyStaysWithAllThatWasNotReadUntilItIsDiscarded)
+{
+    QByteArray damaged = WithNote(LotteryBytes(MadeUpDatabase(5, 36, 1200)), {});
+    damaged.replace(0, 4, "20"); // of 1,200 records the reader takes no more
+    LeaveCopy(WorkKind::Database, damaged);
+    const QString path = m_copies + u'/' + Names().filter(u".Lto"_s).value(0);
+    Run();
+    Click(u"OfferOpen"_s);
+    Settle();
+    EXPECT_EQ(m_shared.database.count, 20);
+    EXPECT_EQ(BytesOf(path), damaged);
+    EXPECT_TRUE(m_prompts.notices.value(0).contains(u"stays"_s)) << m_prompts.notices.value(0).toStdString();
+    EXPECT_FALSE(IsOffering()) << "not again in this run";
+    m_recovery.EndCleanly();
+    Click(u"DExit"_s);
+    Recovery next(m_shared, m_prompts, m_window, m_copies, {});
+    next.Start(kPause);
+    Settle();
+    EXPECT_TRUE(
+        InLastOffer<QLabel>(u"OfferText"_s).text().startsWith(u"A damaged copy of a lottery database, "_s));
+    InLastOffer<QPushButton>(u"OfferDiscard"_s).click();
+    InLastOffer<QPushButton>(u"OfferDiscard"_s).click();
+    EXPECT_EQ(Names(), QStringList());
+}
+
+TEST_F(Offering, ACopyOfWhichNothingIsUnsavedOnceItIsOpenStays)
+{
+    QByteArray damaged = WithNote(LotteryBytes(MadeUpDatabase(5, 36, 12)), {});
+    damaged.replace(0, 2, "0");
+    LeaveCopy(WorkKind::Database, damaged);
+    LeaveDatabase(MadeUpDatabase(5, 36, 0));
+    Run();
+    for (int copy = 0; copy < 2; ++copy) {
+        Click(u"OfferOpen"_s);
+        Settle();
+        EXPECT_EQ(m_shared.database.count, 0);
+        Click(u"DExit"_s);
+    }
+    EXPECT_EQ(Names().filter(u".Lto"_s).size(), 2) << "this run keeps none of its own";
 }
 
 TEST_F(Offering, ACopyThatNothingCanBeReadOfStaysAndSaysWhere)
