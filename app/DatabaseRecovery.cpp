@@ -48,6 +48,7 @@ Outcome TakeRecoveredDatabase(LGLOBAL& shared, const RecoveredWork& work)
     }
     ReplaceDatabase(shared.database, std::move(*reading.content), note.fileName);
     shared.database.modified = 1;
+    shared.databasePath = PathOfWork(note);
     shared.databaseOnDisk = {.folder = note.folder, .fingerprint = 0};
     if (!note.folder.isEmpty()) {
         shared.dialogFolder = note.folder; // where the next dialog finds the work's own file

@@ -65,13 +65,28 @@ QByteArray NoteAsText(const RecoveryNote& note)
         .toJson(QJsonDocument::Compact);
 }
 
+/// A name without a folder, whatever was written there.
+QString NameAlone(const QString& written)
+{
+    const QString name = QFileInfo(written).fileName();
+    const bool isOne = name != u"."_s && name != u".."_s && !name.contains(QChar::Null);
+    return isOne ? name : QString();
+}
+
+QString FolderAlone(const QString& written)
+{
+    return QDir::isAbsolutePath(written) && !written.contains(QChar::Null) ? QDir::cleanPath(written)
+                                                                           : QString();
+}
+
+/// The check sum says that the note is whole and not who wrote it, so it names no file but one of its folder.
 RecoveryNote NoteFromText(const QByteArray& text)
 {
     const QJsonObject values = QJsonDocument::fromJson(text).object();
-    return {.fileName = values.value(u"file"_s).toString(),
-            .folder = values.value(u"folder"_s).toString(),
+    return {.fileName = NameAlone(values.value(u"file"_s).toString()),
+            .folder = FolderAlone(values.value(u"folder"_s).toString()),
             .title = values.value(u"title"_s).toString(),
-            .records = values.value(u"records"_s).toInt(),
+            .records = std::max(values.value(u"records"_s).toInt(), 0),
             .time = QDateTime::fromString(values.value(u"time"_s).toString(), Qt::ISODateWithMs),
             .host = values.value(u"host"_s).toString()};
 }
@@ -263,6 +278,12 @@ QString Amount(const LeftCopy& copy, const QLocale& locale)
 
 } // namespace
 
+QString PathOfWork(const RecoveryNote& note)
+{
+    return note.folder.isEmpty() || note.fileName.isEmpty() ? QString()
+                                                            : QDir(note.folder).filePath(note.fileName);
+}
+
 QByteArray WithNote(const QByteArray& bytes, const RecoveryNote& note)
 {
     const QByteArray text = NoteAsText(note);
@@ -450,7 +471,7 @@ QString DescribeLeftCopy(const LeftCopy& copy, const QLocale& locale, const QStr
                                              : u"A new investment statement"_s);
     parts << Amount(copy, locale) << when;
     if (!copy.note->host.isEmpty() && copy.note->host != host) {
-        parts << u"made on "_s + copy.note->host;
+        parts << u"made on "_s + Shortened(copy.note->host);
     }
     if (!copy.note->title.isEmpty()) {
         parts << u'"' + Shortened(copy.note->title) + u'"';

@@ -22,7 +22,7 @@ enum class WorkKind { Database, Statement };
 /// What a recovery copy says about itself.
 struct RecoveryNote {
     QString fileName{}; ///< the work's own file, without folder; "" for none
-    QString folder{};   ///< of that file; "" for none
+    QString folder{};   ///< of that file, an absolute path; "" for none
     QString title{};    ///< of the lottery; here also what a lottery file cannot hold of it
     int records = 0;    ///< records of the database, or rows of the statement
     QDateTime time{};   ///< when the copy was made
@@ -30,6 +30,9 @@ struct RecoveryNote {
 
     bool operator==(const RecoveryNote&) const = default;
 };
+
+/// The full path of the work's own file; "" when that is not known.
+[[nodiscard]] QString PathOfWork(const RecoveryNote& note);
 
 /// A recovery copy, taken apart.
 struct RecoveredWork {
@@ -41,7 +44,7 @@ struct RecoveredWork {
 [[nodiscard]] QByteArray WithNote(const QByteArray& bytes, const RecoveryNote& note);
 
 /// Takes a copy apart. One that is not as it was written has no note and keeps all its bytes: what the
-/// ordinary reader makes of them is not lost.
+/// ordinary reader makes of them is not lost. A note never names a file outside the folder that it names.
 [[nodiscard]] RecoveredWork WithoutNote(const QByteArray& copy);
 
 /// Where copies are kept: "quillaby/recovery" of $XDG_STATE_HOME, or of ~/.local/state when that is not an

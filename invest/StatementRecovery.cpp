@@ -36,6 +36,7 @@ InvestmentReading ReadRecoveredStatement(LGLOBAL& shared, const RecoveredWork& w
     }
     const RecoveryNote note = work.note.value_or(RecoveryNote{});
     shared.investmentFileName = note.fileName;
+    shared.statementPath = PathOfWork(note);
     shared.statementOnDisk = {.folder = note.folder, .fingerprint = 0};
     if (!note.folder.isEmpty()) {
         shared.dialogFolder = note.folder;

@@ -101,6 +101,28 @@ TEST(RecoveryNote, ACopyWithAnyByteChangedHasNoNote)
     }
 }
 
+TEST(RecoveryNote, NamesAFileOfItsFolderAndNoOther)
+{
+    const auto nameOf = [](const QString& written) {
+        return WithoutNote(WithNote("1\r\n", {.fileName = written})).note.value_or(ANote()).fileName;
+    };
+    EXPECT_EQ(nameOf(u"../x.Lto"_s), u"x.Lto"_s);
+    EXPECT_EQ(nameOf(u"/etc/x.Lto"_s), u"x.Lto"_s);
+    EXPECT_EQ(nameOf(u"a b.Lto"_s), u"a b.Lto"_s);
+    for (const QString& none : {QString(), u"."_s, u".."_s, u"../"_s, u"x/.."_s, u"x.Lto"_s + QChar::Null}) {
+        EXPECT_EQ(nameOf(none), QString()) << none.toStdString();
+    }
+    const auto folderOf = [](const QString& written) {
+        return WithoutNote(WithNote("1\r\n", {.folder = written})).note.value_or(ANote()).folder;
+    };
+    EXPECT_EQ(folderOf(u"/home/some one"_s), u"/home/some one"_s);
+    EXPECT_EQ(folderOf(u"/home/a/../b"_s), u"/home/b"_s);
+    for (const QString& none : {QString(), u"."_s, u"home"_s, u"../home"_s, u"/a"_s + QChar::Null}) {
+        EXPECT_EQ(folderOf(none), QString()) << none.toStdString();
+    }
+    EXPECT_EQ(WithoutNote(WithNote("1\r\n", {.records = -5})).note.value_or(ANote()).records, 0);
+}
+
 TEST(RecoveryFolder, IsInTheUsersStateFolder)
 {
 #if !defined(Q_OS_WIN) && !defined(Q_OS_MACOS)
@@ -605,6 +627,29 @@ TEST_F(KeptDatabaseTest, ComesBackExactlyAsUnsavedWorkUnderItsOwnName)
     EXPECT_EQ(recovered.database.modified, 1);
     EXPECT_EQ(recovered.dialogFolder, QFileInfo(path).absolutePath());
     EXPECT_TRUE(KeptDatabase(recovered).unsaved().has_value()) << "so that it is protected at once";
+}
+
+TEST_F(KeptDatabaseTest, ThePathShownIsThatOfItsOwnFileOrNone)
+{
+    QByteArray bytes = LotteryBytes(MadeUpDatabase(6, 49, 2));
+    m_shared.databasePath = u"/before/Test.Lto"_s;
+    m_shared.statementPath = u"/before/Mine.inv"_s;
+    ASSERT_TRUE(
+        TakeRecoveredDatabase(m_shared, {bytes, RecoveryNote{.fileName = u"Test.Lto"_s, .folder = u"/own"_s}})
+            .ok);
+    EXPECT_EQ(DatabaseFilePath(m_shared), u"/own/Test.Lto"_s);
+    ASSERT_TRUE(TakeRecoveredDatabase(m_shared, {bytes, RecoveryNote{.fileName = u"Test.Lto"_s}}).ok);
+    EXPECT_EQ(DatabaseFilePath(m_shared), u"Test.Lto"_s) << "no folder is known";
+    m_shared.databasePath = u"/before/Test.Lto"_s;
+    ASSERT_TRUE(TakeRecoveredDatabase(m_shared, {bytes, std::nullopt}).ok);
+    EXPECT_EQ(m_shared.databasePath, QString());
+
+    bytes = "0\r\n";
+    const RecoveryNote note{.fileName = u"Mine.inv"_s, .folder = u"/own"_s};
+    ASSERT_TRUE(ReadRecoveredStatement(m_shared, {bytes, note}).statement.has_value());
+    EXPECT_EQ(m_shared.statementPath, u"/own/Mine.inv"_s);
+    ASSERT_TRUE(ReadRecoveredStatement(m_shared, {bytes, std::nullopt}).statement.has_value());
+    EXPECT_EQ(m_shared.statementPath, QString());
 }
 
 TEST_F(KeptDatabaseTest, ATitleThatNoFileCanHoldComesBack)
