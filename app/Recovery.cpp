@@ -23,11 +23,15 @@ Recovery::Recovery(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, QStr
     });
 }
 
-Recovery::~Recovery() = default;
+Recovery::~Recovery()
+{
+    m_shared.beforeDatabaseGoes = {};
+}
 
 void Recovery::Start(std::chrono::milliseconds pause)
 {
     m_keeper.Start(pause);
+    m_shared.beforeDatabaseGoes = [this] { SetDatabaseAside(); };
     QTimer::singleShot(0, this, &Recovery::LookForLeftCopies);
 }
 
@@ -44,6 +48,15 @@ void Recovery::LookForLeftCopies()
     const std::vector<LeftCopy> left = FindLeftCopies(m_folder, m_host, QDateTime::currentDateTimeUtc());
     m_left.assign(left.begin(), left.end());
     OfferNext();
+}
+
+/// The latest comes first, as among those that were found.
+void Recovery::SetDatabaseAside()
+{
+    if (std::optional<LeftCopy> aside = m_keeper.SetAside(WorkKind::Database)) {
+        m_left.push_front(std::move(*aside));
+        OfferNext();
+    }
 }
 
 void Recovery::OfferNext()
@@ -74,7 +87,7 @@ void Recovery::OpenOffered()
     if (m_keeper.HasUnsaved(copy.kind)) {
         m_prompts.Notice(
             u"What is in memory is not saved yet. Save it first, or give it up, and then open what "
-            "was not saved the last time. It stays where it is."_s);
+            "was not saved before. It stays where it is."_s);
         return;
     }
     RecoveredWork work;

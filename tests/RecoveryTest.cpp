@@ -408,7 +408,7 @@ TEST_F(Offering, SaysWhatWasFoundAndEverythingFitsTheOpeningWindow)
     ASSERT_TRUE(IsOffering());
     EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
     EXPECT_EQ(m_window.windowTitle(), u" Quillaby Menu"_s);
-    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"Not saved when the program last ended:"_s);
+    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"This was not saved:"_s);
     EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"Test.Lto, 12 records, "_s))
         << TextOf(u"OfferText"_s).toStdString();
     EXPECT_EQ(m_window.size(), QSize(641, 458));
@@ -567,7 +567,7 @@ TEST_F(Offering, SeveralAreOfferedOneAfterTheOtherTheLatestFirst)
     LeaveStatement(Rows({Item(u"Tickets"_s, u"-12"_s)}), 1);
     LeaveDatabase(MadeUpDatabase(5, 36, 13), u"Third.Lto"_s);
     Run();
-    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"Not saved when the program last ended (and 2 more):"_s);
+    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"This was not saved (and 2 more):"_s);
     EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"First.Lto"_s));
     Click(u"OfferOpen"_s);
     Settle();
@@ -577,7 +577,7 @@ TEST_F(Offering, SeveralAreOfferedOneAfterTheOtherTheLatestFirst)
     Click(u"OfferDiscard"_s);
     Click(u"OfferDiscard"_s);
     EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"Third.Lto"_s));
-    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"Not saved when the program last ended:"_s);
+    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"This was not saved:"_s);
     Click(u"OfferLater"_s);
     EXPECT_FALSE(IsOffering());
 }
@@ -692,6 +692,198 @@ TEST_F(Offering, OnlyWhenThisRunsOwnCopyIsOnTheDiskTheOldOneGoes)
     Settle();
     EXPECT_EQ(m_shared.database.count, 12);
     EXPECT_EQ(Names().filter(u".Lto"_s).size(), 1) << "still there for the next start";
+}
+
+/// Opening a file asks nothing, also when records are not saved.
+class SettingAside : public RecoveryBench
+{
+protected:
+    /// Opens from the menu and comes back to it.
+    void OpenAndComeBack(const QString& path)
+    {
+        m_prompts.files = {path};
+        Click(u"LoadFile"_s);
+        Settle();
+        EXPECT_EQ(FrontForm(), u"LDbase"_s);
+        EXPECT_TRUE(m_prompts.askedTexts.isEmpty());
+        EXPECT_TRUE(m_prompts.notices.isEmpty());
+        EXPECT_TRUE(m_prompts.expectedMessages.empty());
+        Click(u"DExit"_s);
+    }
+    QString Another()
+    {
+        QString path = m_folder.filePath(u"Another.Lto"_s);
+        Place(path, LotteryBytes(MadeUpDatabase(5, 36, 7)));
+        return path;
+    }
+    /// What the menu offers is what was in memory, to the last record.
+    void ExpectBack(const DrawDatabase& lost)
+    {
+        ASSERT_TRUE(IsOffering());
+        Click(u"OfferOpen"_s);
+        Settle();
+        EXPECT_EQ(FrontForm(), u"LDbase"_s);
+        EXPECT_EQ(LotteryBytes(m_shared.database), LotteryBytes(lost));
+        EXPECT_EQ(m_shared.database.fileName, lost.fileName);
+        EXPECT_EQ(m_shared.database.modified, 1);
+        Click(u"DExit"_s);
+        EXPECT_FALSE(IsOffering());
+        EXPECT_EQ(Names().filter(u".Lto"_s).size(), 1) << "this run's own";
+        EXPECT_TRUE(m_prompts.notices.isEmpty());
+    }
+    void FillUnsaved(const QString& fileName = u"Mine.Lto"_s)
+    {
+        FillDatabase(30);
+        m_shared.database.fileName = fileName;
+    }
+};
+
+TEST_F(SettingAside, AnotherFileOpenedOverRecordsThatAreNotSavedLosesNone)
+{
+    Run();
+    FillUnsaved();
+    const DrawDatabase lost = m_shared.database;
+    OpenAndComeBack(Another());
+    EXPECT_EQ(m_shared.database.count, 7) << "it was opened as ever";
+    EXPECT_EQ(m_shared.database.fileName, u"Another.Lto"_s);
+    ASSERT_TRUE(IsOffering());
+    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"This was not saved:"_s);
+    EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"Mine.Lto, 30 records, "_s))
+        << TextOf(u"OfferText"_s).toStdString();
+    ExpectBack(lost);
+}
+
+TEST_F(SettingAside, AFileThatIsMissingLosesNone)
+{
+    Run();
+    FillUnsaved();
+    ASSERT_TRUE(WaitForCopies(1));
+    const DrawDatabase lost = m_shared.database;
+    m_prompts.expectedMessages = {13};
+    OpenAndComeBack(m_folder.filePath(u"Nowhere.Lto"_s));
+    EXPECT_EQ(m_shared.database.count, 0);
+    ExpectBack(lost);
+}
+
+TEST_F(SettingAside, AFileThatIsDamagedLosesNone)
+{
+    Run();
+    FillUnsaved(QString());
+    const DrawDatabase lost = m_shared.database;
+    const QString damaged = m_folder.filePath(u"Damaged.Lto"_s);
+    Place(damaged, "12,7,36,\"Lotto");
+    m_prompts.expectedMessages = {16, 13};
+    OpenAndComeBack(damaged);
+    EXPECT_EQ(m_shared.database.count, 0);
+    EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"A new lottery database, 30 records, "_s));
+    ExpectBack(lost);
+}
+
+TEST_F(SettingAside, WhatChangedSinceTheLastCopyIsInItToo)
+{
+    Start();
+    m_recovery.Start(1h);
+    FillUnsaved();
+    ASSERT_TRUE(m_recovery.Keeper().KeepNow().ok);
+    m_shared.database.records.at(30).drawn.at(0) = 49;
+    const DrawDatabase lost = m_shared.database;
+    OpenAndComeBack(Another());
+    ExpectBack(lost);
+}
+
+TEST_F(SettingAside, WhereNothingIsUnsavedNothingIsOffered)
+{
+    Run();
+    const QString another = Another();
+    OpenAndComeBack(another); // over the empty database
+    OpenAndComeBack(another); // over one that is as its file, and was looked at in the editor
+    m_prompts.expectedMessages = {13};
+    OpenAndComeBack(m_folder.filePath(u"Nowhere.Lto"_s));
+    FillUnsaved();
+    m_prompts.files = {m_folder.filePath(u"Mine.Lto"_s)};
+    Click(u"SaveFile"_s);
+    OpenAndComeBack(another);
+    m_prompts.files = {QString()};
+    Click(u"LoadFile"_s); // a cancel, over a change
+    m_shared.database.title = u"x"_s;
+    Click(u"DExit"_s);
+    EXPECT_EQ(m_window.findChild<RecoveryOffer*>(), nullptr);
+    m_recovery.EndCleanly();
+    EXPECT_TRUE(!QDir(m_copies).exists() || Names().isEmpty());
+}
+
+TEST_F(SettingAside, ACleanEndLeavesItAndTheNextStartOffersIt)
+{
+    Run();
+    FillUnsaved();
+    const DrawDatabase lost = m_shared.database;
+    OpenAndComeBack(Another());
+    m_recovery.EndCleanly();
+    EXPECT_EQ(Names().size(), 1) << "and no lock";
+    Recovery next(m_shared, m_prompts, m_window, m_copies, {KeptDatabase(m_shared)});
+    next.Start(kPause);
+    Settle();
+    EXPECT_EQ(m_window.findChildren<RecoveryOffer*>().size(), 2) << "that of the run before, and its own";
+    EXPECT_TRUE(InLastOffer<QLabel>(u"OfferText"_s).text().startsWith(u"Mine.Lto, 30 records, "_s));
+    const std::vector<LeftCopy> left = FindLeftCopies(m_copies, Host(), QDateTime::currentDateTimeUtc());
+    ASSERT_EQ(left.size(), 1U);
+    RecoveredWork work;
+    ASSERT_TRUE(ReadLeftCopy(left.at(0), work).ok);
+    EXPECT_EQ(work.bytes, LotteryBytes(lost));
+}
+
+TEST_F(SettingAside, LaterKeepsItForTheNextStartAndDiscardGivesItUp)
+{
+    Run();
+    FillUnsaved();
+    OpenAndComeBack(Another());
+    Click(u"OfferLater"_s);
+    EXPECT_FALSE(IsOffering());
+    EXPECT_EQ(Names().size(), 1);
+    FillUnsaved(u"Second.Lto"_s);
+    OpenAndComeBack(Another());
+    EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"Second.Lto, "_s));
+    Click(u"OfferDiscard"_s);
+    Click(u"OfferDiscard"_s);
+    EXPECT_FALSE(IsOffering());
+    EXPECT_EQ(Names().size(), 1) << "that for later";
+}
+
+TEST_F(SettingAside, TheLatestIsOfferedBeforeWhatWasFoundAtTheStart)
+{
+    LeaveDatabase(MadeUpDatabase(5, 36, 12), u"Found.Lto"_s);
+    Run();
+    FillUnsaved();
+    OpenAndComeBack(Another());
+    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"This was not saved (and 1 more):"_s);
+    EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"Mine.Lto, "_s));
+    Click(u"OfferLater"_s);
+    EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"Found.Lto, "_s));
+}
+
+TEST_F(SettingAside, WhereNoCopyCanBeKeptTheMenuSaysSoAndTheFileIsOpened)
+{
+    Place(m_folder.filePath(u"state"_s), "a file where the folder should be");
+    Start();
+    m_recovery.Start(1h);
+    FillUnsaved();
+    OpenAndComeBack(Another());
+    EXPECT_EQ(m_shared.database.count, 7);
+    EXPECT_FALSE(IsOffering());
+    EXPECT_TRUE(Find<QLabel>(u"RecoveryTrouble"_s).isVisible());
+    EXPECT_TRUE(TextOf(u"RecoveryTrouble"_s).contains(u"cannot be made"_s));
+}
+
+TEST_F(SettingAside, AFileNamedOutsideSetsAsideAsWell)
+{
+    Run();
+    FillUnsaved();
+    const DrawDatabase lost = m_shared.database;
+    m_window.OpenNamedFile(Another());
+    Settle();
+    EXPECT_EQ(m_shared.database.count, 7);
+    Click(u"DExit"_s);
+    ExpectBack(lost);
 }
 
 TEST_F(Offering, AFormThatHoldsNoWorkRefusesIt)
