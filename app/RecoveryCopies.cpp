@@ -300,11 +300,12 @@ RecoveredWork WithoutNote(const QByteArray& copy)
     const qsizetype mark = copy.lastIndexOf(kNoteMark);
     const qsizetype sumBegin = mark + kNoteMark.size();
     const qsizetype textBegin = sumBegin + kSumLength + 1;
-    if (mark < 0 || textBegin > copy.size() || !copy.endsWith("\r\n")) {
+    const qsizetype textEnd = copy.size() - 2;
+    if (mark < 0 || textBegin > textEnd || !copy.endsWith("\r\n")) {
         return {copy, std::nullopt};
     }
     const QByteArray bytes = copy.first(mark + 2);
-    const QByteArray text = copy.mid(textBegin).chopped(2);
+    const QByteArray text = copy.mid(textBegin, textEnd - textBegin);
     if (copy.mid(sumBegin, kSumLength + 1) != SumOf(bytes, text) + ' ') {
         return {copy, std::nullopt};
     }

@@ -101,6 +101,16 @@ TEST(RecoveryNote, ACopyWithAnyByteChangedHasNoNote)
     }
 }
 
+TEST(RecoveryNote, ACopyThatEndsWithinTheMarkOrTheSumHasNone)
+{
+    for (int length = 0; length < 70; ++length) {
+        const QByteArray copy = "1\r\nrecovery " + QByteArray(length, '0') + "\r\n";
+        const RecoveredWork work = WithoutNote(copy);
+        EXPECT_FALSE(work.note.has_value()) << length;
+        EXPECT_EQ(work.bytes, copy) << length;
+    }
+}
+
 TEST(RecoveryNote, NamesAFileOfItsFolderAndNoOther)
 {
     const auto nameOf = [](const QString& written) {
