@@ -6,6 +6,12 @@
 
 using namespace Qt::StringLiterals;
 
+QString ShownTitle(const DrawDatabase& database)
+{
+    constexpr qsizetype kLongest = 10000;
+    return database.title.left(kLongest);
+}
+
 QString DatabaseFacts(const DrawDatabase& database, const QLocale& locale)
 {
     if (database.count < 1) {

@@ -12,6 +12,10 @@ void PlaceDialog(QWidget& dialog, const QWidget* mainWindow, qint32 layoutSize, 
     if (mainWindow == nullptr) {
         return;
     }
+    while (const QWidget* above =
+               mainWindow->parentWidget()) { // a message over a dialog: not from the dialog
+        mainWindow = above->window();
+    }
     const QPoint twips = layoutSize < kLargeLayoutFrom ? offsets.smallLayout : offsets.largeLayout;
     const int density = mainWindow->logicalDpiX();
     QPoint place = mainWindow->frameGeometry().topLeft() +

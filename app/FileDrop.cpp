@@ -19,13 +19,13 @@ bool HasOurEnding(const QString& path)
     return path.endsWith(u".lto"_s, Qt::CaseInsensitive) || IsStatementFileName(path);
 }
 
+} // namespace
+
 bool IsBusy()
 {
     return QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr ||
            QApplication::overrideCursor() != nullptr;
 }
-
-} // namespace
 
 DropOffer JudgeDrop(const QMimeData& data, const WorkingForm* form)
 {

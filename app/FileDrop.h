@@ -18,6 +18,9 @@ struct DropOffer {
 /// @param form  the one that is shown; none takes nothing
 [[nodiscard]] DropOffer JudgeDrop(const QMimeData& data, const WorkingForm* form);
 
+/// Whether a dialog, a menu or a calculation is under way, so that no file can be opened now.
+[[nodiscard]] bool IsBusy();
+
 /// Opens a file that is dropped on the main window. While something is dragged over it, a line at its lower
 /// edge says what would happen, and the pointer says whether. Under a modal dialog nothing happens.
 class FileDrop : public QObject

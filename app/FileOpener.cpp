@@ -1,5 +1,7 @@
 #include "app/FileOpener.h"
 
+#include "app/FileDrop.h"
+
 #include <QApplication>
 #include <QFileInfo>
 #include <QFileOpenEvent>
@@ -18,11 +20,13 @@ bool FileOpener::eventFilter(QObject* watched, QEvent* event)
         return QObject::eventFilter(watched, event);
     }
     const QString file = static_cast<QFileOpenEvent*>(event)->file();
-    if (file.isEmpty() || QApplication::activeModalWidget() != nullptr) {
-        QApplication::beep();
-        return true;
-    }
     // Opening may ask a question, which must not run inside the event.
-    QTimer::singleShot(0, this, [this, path = QFileInfo(file).absoluteFilePath()] { m_open(path); });
+    QTimer::singleShot(0, this, [this, path = file.isEmpty() ? file : QFileInfo(file).absoluteFilePath()] {
+        if (path.isEmpty() || IsBusy()) {
+            QApplication::beep();
+        } else {
+            m_open(path);
+        }
+    });
     return true;
 }

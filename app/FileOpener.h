@@ -6,7 +6,7 @@
 #include <functional>
 
 /// Opens the files that the desktop hands to the running program: macOS names them in events and not on the
-/// command line. While a dialog waits for its answer a file is refused with a beep.
+/// command line. While a dialog waits for its answer, or the program works, a file is refused with a beep.
 class FileOpener : public QObject
 {
     Q_OBJECT

@@ -201,10 +201,18 @@ void InputBox::mouseReleaseEvent(QMouseEvent* event)
 void InputBox::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
-    if (m_shared == nullptr || !MovesWithinWindow(event->reason())) {
+    if (m_shared == nullptr) {
+        return;
+    }
+    // A dialog that opens gives its first box the focus before its window is the active one.
+    const bool entered = std::exchange(m_entered, true);
+    if (entered && !MovesWithinWindow(event->reason())) {
         return;
     }
     QApplication::clipboard()->clear(); // so that nothing can be pasted into the box
+    if (!MovesWithinWindow(event->reason())) {
+        return;
+    }
     if (m_rules.click != InputRules::Click::EmptiesBox) {
         selectAll();
         m_selectOnRelease = event->reason() == Qt::MouseFocusReason;
@@ -217,6 +225,7 @@ void InputBox::focusOutEvent(QFocusEvent* event)
     if (m_shared == nullptr || !MovesWithinWindow(event->reason())) {
         return;
     }
+    m_entered = false;
     const bool edited = std::exchange(m_shared->entryEdited, qint16{0}) != 0;
     const std::optional<Message> due = m_rules.leave ? m_rules.leave(*this, edited) : std::nullopt;
     QApplication::clipboard()->clear();
@@ -228,6 +237,9 @@ void InputBox::focusOutEvent(QFocusEvent* event)
 void InputBox::hideEvent(QHideEvent* event)
 {
     QLineEdit::hideEvent(event);
+    if (!event->spontaneous()) {
+        m_entered = false;
+    }
     // A dialog closes over the box the user typed in: the mark is not the next box's.
     if (m_shared != nullptr && !event->spontaneous() && window()->focusWidget() == this) {
         m_shared->entryEdited = 0;

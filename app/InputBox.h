@@ -73,6 +73,7 @@ private:
     LGLOBAL* m_shared = nullptr;
     InputRules m_rules;
     bool m_selectOnRelease = false;
+    bool m_entered = false; ///< has the focus, be its window active or not
 };
 
 /// A number from @p low to @p high: outside, @p message is due and the box shows @p fallback; inside, an

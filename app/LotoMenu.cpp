@@ -156,14 +156,14 @@ void LotoMenu::ShowUserName()
 void LotoMenu::ShowFileInMemory()
 {
     const DrawDatabase& database = Shared().database;
-    m_ui->InfoLabel->setText(database.count == 0 ? QString()
-                                                 : u" File in Memory \r\n  "_s + database.title + u"  "_s);
+    m_ui->InfoLabel->setText(
+        database.count == 0 ? QString() : u" File in Memory \r\n  "_s + ShownTitle(database) + u"  "_s);
     if (database.count != 0) { // not at the start, whose picture need not wait for another font
         // A title of any length must not push the window wider or the buttons together; all of it is in the
         // tip.
         constexpr int kMostLines = 3;
         m_ui->InfoLabel->setMaximumHeight(kMostLines * m_ui->InfoLabel->fontMetrics().lineSpacing());
-        SetLiteralToolTip(*m_ui->InfoLabel, database.title);
+        SetLiteralToolTip(*m_ui->InfoLabel, ShownTitle(database));
     }
     m_ui->InfoLabel->setVisible(database.count != 0);
     const QString facts = DatabaseFacts(database, Shared().locale);

@@ -6,6 +6,7 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QLayout>
 #include <QResizeEvent>
 
@@ -140,6 +141,16 @@ void MDIContainer::OpenNamedFile(const QString& path)
         m_active->OpenNamedFile(path);
     } else {
         m_menu->OpenNamedFile(path);
+    }
+}
+
+void MDIContainer::OpenHandedFile(const QString& path)
+{
+    if (m_active != nullptr && m_active->OpensDropped(path)) {
+        OpenDroppedFile(path);
+    } else {
+        m_prompts.Notice(
+            u"\"%1\" is not opened yet: go back to the menu first."_s.arg(QFileInfo(path).fileName()));
     }
 }
 

@@ -40,6 +40,10 @@ public:
     /// Opens a file that was named outside, in the form that its name belongs to: the tracker or the editor.
     void OpenNamedFile(const QString& path);
 
+    /// Opens a file that the desktop hands over while the program runs: where a dropped one would be opened,
+    /// so that nothing typed is lost; elsewhere a notice says where to go first.
+    void OpenHandedFile(const QString& path);
+
     [[nodiscard]] LotoMenu& Menu() { return *m_menu; }
     [[nodiscard]] WorkingForm* ActiveForm() { return m_active; }
     [[nodiscard]] const WorkingForm* ActiveForm() const { return m_active; }

@@ -60,6 +60,8 @@ QString Printable(const QString& text)
         } else if (character.isMark() || character.category() == QChar::Other_Format ||
                    character.isLowSurrogate()) {
             continue; // a pair of surrogates is one character
+        } else if (character.isDigit()) {
+            printable += QChar(u'0' + character.digitValue()); // a date in the digits of another script
         } else {
             printable += IsOneColumnWide(character) ? character : QChar(u'?');
         }

@@ -14,6 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype kLongestPath = 4096;
+constexpr qsizetype kLongestLine = 10 * kLongestPath; // in an address most characters take several
 
 /// The path on a line, "" when it is none. Lines are file addresses: so a path with any character in it takes
 /// one line.
@@ -61,14 +62,16 @@ QStringList RecentFiles(const QString& list)
         return {};
     }
     QStringList paths;
-    for (const QByteArray& line : bytes.split('\n')) {
-        const QString path = PathOnLine(line);
+    constexpr int kMostLines = 1000; // somebody else's file in the list's place may be of any length
+    qsizetype begin = 0;
+    for (int i = 0; i < kMostLines && begin < bytes.size() && paths.size() < kMostRecentFiles; ++i) {
+        const qsizetype end = bytes.indexOf('\n', begin);
+        const QByteArray line = bytes.mid(begin, end < 0 ? -1 : end - begin);
+        const QString path = line.size() <= kLongestLine ? PathOnLine(line) : QString();
         if (!path.isEmpty() && !paths.contains(path)) {
             paths << path;
         }
-        if (paths.size() == kMostRecentFiles) {
-            break;
-        }
+        begin = end < 0 ? bytes.size() : end + 1;
     }
     return paths;
 }

@@ -202,17 +202,23 @@ Outcome SaveFileBytes(const QString& path, const QByteArray& bytes, NewFileFor r
     if (Outcome written = WriteAndCommit(path, bytes, readers); !written.ok) {
         return written;
     }
+    // From here on the old file is gone. A fault is told all the same, but not as if nothing had been
+    // written.
+    const auto inPlaceBut = [](const QString& reason) {
+        return Outcome::Failure(
+            u"The new file is in its place, but whether the disk keeps it is not sure: "_s + reason);
+    };
     // Of a link, the file it leads to was replaced.
     const QFileInfo placed(QFileInfo(path).canonicalFilePath());
-    if (Outcome forced = ForceFolderToDisk(placed.absolutePath()); !forced.ok) {
-        return forced;
+    if (const Outcome forced = ForceFolderToDisk(placed.absolutePath()); !forced.ok) {
+        return inPlaceBut(forced.reason);
     }
     QByteArray readBack;
-    if (Outcome read = ReadFileBytes(path, readBack); !read.ok) {
-        return read;
+    if (const Outcome read = ReadFileBytes(path, readBack); !read.ok) {
+        return inPlaceBut(read.reason);
     }
     if (readBack != bytes) {
-        return Outcome::Failure(u"What was read back from the disk is not what was written."_s);
+        return inPlaceBut(u"What was read back from the disk is not what was written."_s);
     }
     TidyLeftovers(placed);
     return {};

@@ -311,7 +311,7 @@ int main(int argc, char* argv[])
     Recovery recovery(shared, prompts, window, UsualRecoveryFolder(),
                       {KeptDatabase(shared), KeptStatement(shared)});
     recovery.Start();
-    const FileOpener opener([&](const QString& path) { window.OpenNamedFile(path); });
+    const FileOpener opener([&](const QString& path) { window.OpenHandedFile(path); });
     if (!line.file.isEmpty()) {
         QTimer::singleShot(0, &window, [&] { window.OpenNamedFile(line.file); });
     }

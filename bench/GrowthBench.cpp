@@ -1,6 +1,7 @@
 // How the work on the records grows with their number: from 10, which one types in an evening, to the limit.
 
 #include "app/LotteryFile.h"
+#include "app/WorkFingerprint.h"
 #include "bench/MadeLottery.h"
 #include "database/DateSort.h"
 #include "database/ExtractRecords.h"
@@ -62,6 +63,16 @@ void GrowWriting(benchmark::State& state)
     }
 }
 BENCHMARK(GrowWriting)->Apply(Grow);
+
+/// What tells, every three seconds, whether a recovery copy is to be written.
+void GrowFingerprint(benchmark::State& state)
+{
+    const DrawDatabase database = LotteryOf(state);
+    while (state.KeepRunning()) {
+        benchmark::DoNotOptimize(Fingerprint(database));
+    }
+}
+BENCHMARK(GrowFingerprint)->Apply(Grow);
 
 void GrowCounting(benchmark::State& state)
 {

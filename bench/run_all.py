@@ -21,6 +21,7 @@ BESIDE = [
     ("Reading a file, 6 picks", "ReadLottery/picks:6", "SplitAndConvert/picks:6", "splitting the bytes, `toInt` of each field"),
     ("Opening it from the disk", "OpenLotteryFromDisk/picks:6", "SplitAndConvert/picks:6", "the same, without a disk"),
     ("Writing it", "WriteLottery/picks:6", "JoinPlainNumbers/picks:6", "joining `QByteArray::number` of each"),
+    ("Fingerprint for the recovery copy", "GrowFingerprint/records:2001", "GrowWriting/records:2001", "writing the file to compare"),
     ("Saving it durably", "SaveDurably/picks:6/real_time", "SaveInPlace/picks:6/real_time", "writing over the old file"),
     ("Counting, times drawn", "Count/TimesDrawn/records:2000", "NaiveTimesDrawn", "three nested loops"),
     ("Counting, since last drawn", "Count/SinceLastDrawn/records:2000", "NaiveTimesDrawn", "three nested loops"),
@@ -44,6 +45,7 @@ BESIDE = [
 GROWING = [
     ("Reading a file", "GrowReading"),
     ("Writing it", "GrowWriting"),
+    ("Fingerprint for the recovery copy", "GrowFingerprint"),
     ("Counting, times drawn", "GrowCounting"),
     ("Counting, since last drawn", "GrowSinceLastDrawn"),
     ("Hot, cold and due lists", "GrowHotColdDue"),

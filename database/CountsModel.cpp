@@ -8,6 +8,7 @@ void CountsModel::SetUp(int highest)
 {
     beginResetModel();
     m_highest = highest;
+    m_filled = false; // what was counted belongs to the database before
     endResetModel();
 }
 

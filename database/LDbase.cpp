@@ -196,6 +196,9 @@ void LDbase::Load()
         FillRecordsGrid();
         ComputeNumberStats(shared);
         ShowStatistics();
+    } else {
+        shared.NumberStats = {};
+        shared.sortedNumberStats = {};
     }
     ShowDrawDays();
     // With records the next draw's date; without any, today, whose weekday becomes a draw day.
@@ -403,6 +406,7 @@ void LDbase::ShowFault(const EntryFault& fault)
 
 void LDbase::ShowNewRecord()
 {
+    ShowHelp(false); // it stands in the place of the records
     FillRecordsGrid();
     AdvanceDate();
     EmptyNumberBoxes();
@@ -553,6 +557,7 @@ void LDbase::SortAndShow()
 void LDbase::ShowAgain(int unreadable)
 {
     Shared().ClickedRecord = 0; // the records may have moved
+    ShowHelp(false);
     ClearAllCels();
     FillRecordsGrid();
     if (NumberTexts().join(QString()).isEmpty()) { // a draw that is half typed keeps its date

@@ -1,5 +1,6 @@
 #include "database/LGraph.h"
 
+#include "app/DatabaseFacts.h"
 #include "app/Printing.h"
 #include "app/SharedStatistics.h"
 #include "database/StatisticsChart.h"
@@ -107,7 +108,7 @@ BarChart LGraph::Chart() const
     return StatisticsChart(shared.sortedNumberStats, shared.database.Shape().highest,
                            {.counted = shared.WhichCnt,
                             .records = shared.database.count,
-                            .title = shared.database.title,
+                            .title = ShownTitle(shared.database),
                             .style = ShowsFlatBars() ? BarStyle::Flat : BarStyle::ThreeDimensional});
 }
 

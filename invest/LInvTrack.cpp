@@ -254,7 +254,6 @@ void LInvTrack::TakeLoaded(const InvestmentReading& loaded)
     Switcher().FileChanged();
     m_changed = false;
     if (!loaded.isCalculated) {
-        m_counted = CalculateStatement(loaded.statement->rows).value_or(*loaded.statement);
         m_uncounted = true;
         m_ui->IChange->show();
     }
@@ -290,7 +289,8 @@ void LInvTrack::Print()
 
 QString LInvTrack::PrintHeading() const
 {
-    QStringList parts{Shared().settings.userName, Shared().investmentFileName,
+    constexpr qsizetype kLongestName = 200; // the settings file may hold a name that fills pages
+    QStringList parts{Shared().settings.userName.left(kLongestName), Shared().investmentFileName,
                       ShortDate(Shared().today(), Shared().locale)};
     parts.removeAll(QString());
     return parts.join(u", "_s);

@@ -64,7 +64,8 @@ QString StatementModel::CellText(int row, int column) const
         return {}; // a file may carry rows beyond the last that can be used
     }
     if (column == DescriptionColumn) {
-        return item.description;
+        constexpr qsizetype kLongest = 1000; // more than any cell shows; a file may hold a line of any length
+        return item.description.left(kLongest);
     }
     return item.amount ? Format(*item.amount, u"####,,###.00") : QString();
 }

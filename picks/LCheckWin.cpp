@@ -1,5 +1,6 @@
 #include "picks/LCheckWin.h"
 
+#include "app/DatabaseFacts.h"
 #include "app/Printing.h"
 #include "app/ShortDate.h"
 #include "app/TextPictures.h"
@@ -90,7 +91,7 @@ void LCheckWin::Load()
     const DrawDatabase& database = Shared().database;
     Switcher().SetCaption(u" Check numbers"_s);
     m_search = {}; // what was found before, maybe in another database, is not printed any more
-    m_ui->TitleCheck->setText(database.title);
+    m_ui->TitleCheck->setText(ShownTitle(database));
     m_ui->MatchNum->setText(database.Shape().picks < kUsualMinimum ? u" 1"_s : u" 3"_s);
     EmptyBoxes();
     ShowHelp(false);
@@ -205,7 +206,8 @@ void LCheckWin::Search(const QStringList& numbers, int minimum)
 {
     constexpr int kSpareRows = 10;
     const DrawDatabase& database = Shared().database;
-    m_search = {.title = database.title, .picks = database.Shape().picks, .query = QueryIn(numbers, minimum)};
+    m_search = {
+        .title = ShownTitle(database), .picks = database.Shape().picks, .query = QueryIn(numbers, minimum)};
     m_search.matchCount = qint16(ListWinners(database, m_search.query, Shared().scratchRecords));
 
     m_gridRows = m_search.matchCount + kSpareRows;

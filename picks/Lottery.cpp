@@ -1,5 +1,6 @@
 #include "picks/Lottery.h"
 
+#include "app/DatabaseFacts.h"
 #include "app/Printing.h"
 #include "app/SharedStatistics.h"
 #include "app/TextPictures.h"
@@ -282,8 +283,8 @@ void Lottery::ShowDatabase()
     m_ui->InfoLabel1->setVisible(hasRecords);
     m_ui->PWhichCnt->setVisible(hasRecords);
     if (hasRecords) {
-        m_ui->InfoLabel1->setText(u" File in Memory \r\n  "_s + database.title + u"  "_s);
-        SetLiteralToolTip(*m_ui->InfoLabel1, database.title);
+        m_ui->InfoLabel1->setText(u" File in Memory \r\n  "_s + ShownTitle(database) + u"  "_s);
+        SetLiteralToolTip(*m_ui->InfoLabel1, ShownTitle(database));
     } else { // an empty database has the shape of the personal settings
         database.highest = settings.defaultHighest;
         database.columns = qint16(settings.defaultPicks + 2);
@@ -443,7 +444,7 @@ bool Lottery::ListCandidates(const PickEntries& entries)
     }
     shared.sortMode = kSortedByValue;
     SortNumberStats(shared);
-    const int left = int(entries.left);
+    const int left = int(std::min(entries.left, kMostNumbers + 1.0)); // beyond the last: no position at all
     const int right = int(std::min(entries.right, double{kMostNumbers}));
     shared.CandidateNumbers = SortedPositions(shared.sortedNumberStats, left, right);
     m_fromNumbers = NumbersOfPositions(shared.CandidateNumbers);

@@ -39,8 +39,8 @@ struct CheckedEntries {
 
 /// Checks the entries for Calculate.
 ///
-/// The span from Left to Right is checked in the full range too, on whatever the disabled boxes hold: it is
-/// required that positions which leave too little room for a set are noticed whatever the mode. When moving
+/// The span from Left to Right is checked in the full range too, on whatever the disabled boxes hold: so
+/// that positions which leave too little room for a set are noticed whatever the mode. When moving
 /// Right to the highest number does not help, Left has to be lowered, for which sorted positions are chosen.
 [[nodiscard]] CheckedEntries CheckForCalculate(PickEntries entries, const PickLimits& limits);
 

@@ -9,6 +9,7 @@ void CannedPrompts::ShowMessage()
     const QString text = CurrentMessageText(m_shared);
     shownTexts << text;
     shownReasons << m_shared.messageReason;
+    onMessage();
     EXPECT_FALSE(busy) << "a message under the busy pointer: " << number;
     if (anythingGoes) {
         return;
@@ -49,6 +50,7 @@ void CannedPrompts::PrintDocument(const PrintedDocument& document)
 void CannedPrompts::FileDirectory()
 {
     fileDialogModes.push_back(m_shared.fileDialogMode);
+    onFileDialog();
     if (files.empty()) {
         ADD_FAILURE() << "unexpected file dialog, mode " << m_shared.fileDialogMode;
     }

@@ -42,8 +42,10 @@ public:
     std::vector<PrintedDocument> printed;
     std::deque<qint16> fileDialogModes; ///< the modes the file dialog was opened under
     bool busy = false;
-    std::function<void()> onNotice = [] {}; ///< runs at each notice
-    std::deque<bool> busyChanges;           ///< the busy pointer shown and taken away, in order
+    std::function<void()> onNotice = [] {};     ///< runs at each notice
+    std::function<void()> onMessage = [] {};    ///< runs at each message
+    std::function<void()> onFileDialog = [] {}; ///< runs while each file dialog is open
+    std::deque<bool> busyChanges;               ///< the busy pointer shown and taken away, in order
 
 private:
     LGLOBAL& m_shared;

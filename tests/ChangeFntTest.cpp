@@ -117,6 +117,23 @@ TEST_F(Settings, AreWrittenAsOneLineWhenTheFormIsLeft)
     EXPECT_EQ(read, m_shared.settings);
 }
 
+TEST_F(Settings, TheStandardFontIsChosenAgainAndStaysSo)
+{
+    m_shared.settings.printerFont = 1;
+    InForm([this] {
+        EXPECT_TRUE(Font(1).isChecked());
+        QTest::mouseClick(&Font(0), Qt::LeftButton, {}, QPoint(8, Font(0).height() / 2));
+        EXPECT_EQ(m_shared.settings.printerFont, 0);
+        Leave();
+    });
+    EXPECT_TRUE(File().startsWith("0,")) << File().toStdString();
+    InForm([this] {
+        EXPECT_TRUE(Font(0).isChecked());
+        EXPECT_FALSE(Font(1).isChecked());
+        Leave();
+    });
+}
+
 TEST_F(Settings, LeaveTheOpenDatabaseItsShape)
 {
     FillDatabase(1);
@@ -140,6 +157,29 @@ TEST_F(Settings, EnterWalksThroughTheBoxesInTheirOrder)
         }
         QTest::keyClick(m_form->focusWidget(), Qt::Key_Return);
     });
+}
+
+TEST_F(Settings, ANumberBoxTakesDigitsAloneAClickEmptiesItAndEnterJustifiesIt)
+{
+    const QList<QPair<QString, QString>> ways{
+        {u"InNumChoices"_s, u"InHiNum"_s}, {u"InHiNum"_s, u"InNumLines"_s}, {u"InNumLines"_s, u"InSy"_s}};
+    InForm([&] {
+        for (const auto& [name, next] : ways) {
+            InputBox& box = FormBox(name);
+            const QString before = box.text();
+            Type(name, u"a-."_s);
+            EXPECT_EQ(box.text(), before) << name.toStdString();
+            QTest::mouseClick(&box, Qt::LeftButton);
+            EXPECT_EQ(box.text(), QString()) << name.toStdString();
+            QTest::keyClicks(&box, u"5"_s);
+            EXPECT_EQ(box.text(), u"5"_s) << name.toStdString();
+            QTest::keyClick(&box, Qt::Key_Return);
+            EXPECT_EQ(box.text(), u" 5"_s) << name.toStdString();
+            EXPECT_EQ(FocusName(), next);
+        }
+        Leave();
+    });
+    EXPECT_EQ(File(), "0,5,5,5,\"$\",\"\"\r\n");
 }
 
 TEST_F(Settings, ANumberOutOfRangeBringsItsMessageAndTheUpperBound)
@@ -179,6 +219,32 @@ TEST_F(Settings, TheFormStaysOpenWhenTheBoxLeftForTheButtonBringsAMessage)
         Leave();
     });
     EXPECT_EQ(m_shared.settings.defaultHighest, 60);
+}
+
+TEST_F(Settings, TheCaptionStaysWithTheFormThatAMessageKeepsOpen)
+{
+    InForm([this] {
+        Type(u"InNumLines"_s, u"11"_s);
+        m_prompts.expectedMessages = {27};
+        Leave();
+        Settle();
+        EXPECT_TRUE(m_prompts.expectedMessages.empty());
+        EXPECT_TRUE(m_form->isVisible());
+        EXPECT_EQ(m_window.windowTitle(), u" Personalize"_s);
+        Leave();
+    });
+    EXPECT_EQ(m_window.windowTitle(), u" Quillaby Menu"_s);
+}
+
+TEST_F(Settings, TheMenuIsHiddenWhileTheFormIsOpen)
+{
+    EXPECT_TRUE(m_window.Menu().isVisible());
+    InForm([this] {
+        EXPECT_FALSE(m_window.Menu().isVisible());
+        EXPECT_EQ(m_window.ActiveForm(), nullptr);
+        Leave();
+    });
+    EXPECT_TRUE(m_window.Menu().isVisible());
 }
 
 TEST_F(Settings, ADoubleQuoteCannotBeTypedOrPasted)

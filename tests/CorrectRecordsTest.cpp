@@ -380,6 +380,21 @@ TEST_F(Correcting, ADateAfterTheLastRecordGivesTheRowUp)
     ExpectAtRest(u"1/19/2000"_s);
 }
 
+TEST_F(Correcting, TheLastRecordItselfIsGivenNoLaterDate)
+{
+    OpenWith(5);
+    const DrawDatabase before = m_shared.database;
+    Choose(Correct, u"5"_s);
+    EXPECT_EQ(Box(u"InDate"_s).text(), u"1/15/2000"_s);
+    SetDate(u"1/16/2000"_s);
+    m_prompts.expectedMessages = {39};
+    Click(u"DCalc"_s);
+    EXPECT_EQ(LastMessage(), u"Date cannot be greater than last record.1/15/2000"_s);
+    EXPECT_EQ(m_shared.database.count, 5);
+    EXPECT_TRUE(m_shared.database.records == before.records);
+    ExpectAtRest(u"1/19/2000"_s);
+}
+
 TEST_F(Correcting, TheDayOfTheLastRecordIsNotTooLate)
 {
     OpenWith(5);
@@ -679,6 +694,34 @@ TEST_F(Correcting, TheStatisticsFollowTheNewOrder)
     Choose(Sort);
     EXPECT_EQ(Cell(u"DGrid2"_s, 0, 0), u"0"_s); // in the last draw
     EXPECT_EQ(m_shared.WhichCnt, CountMode::SinceLastDrawn);
+}
+
+// The busy pointer
+
+TEST_F(Correcting, TheBusyPointerIsShownDuringEachTask)
+{
+    OpenWith(5);
+    const std::deque<bool> shownAndTakenAway{true, false};
+    const auto during = [this](const std::function<void()>& act) {
+        m_prompts.busyChanges.clear();
+        act();
+        return m_prompts.busyChanges;
+    };
+    const auto add = [this] { Click(u"DCalc"_s); };
+    Choose(Correct, u"2"_s);
+    SetNumbers({u"44"_s, u"45"_s, u"46"_s, u"47"_s, u"48"_s, u"49"_s});
+    EXPECT_EQ(during(add), shownAndTakenAway) << "correct";
+    Choose(Insert);
+    SetDate(u"1/2/2000"_s);
+    TypeDraw({u"44"_s, u"45"_s, u"46"_s, u"47"_s, u"48"_s, u"49"_s});
+    EXPECT_EQ(during(add), shownAndTakenAway) << "insert";
+    EXPECT_EQ(during([this] { Choose(Delete, u"2"_s); }), shownAndTakenAway) << "delete";
+    EXPECT_EQ(during([this] { Choose(Sort); }), shownAndTakenAway) << "sort";
+    Choose(Correct, u"2"_s);
+    SetDate(u"1/16/2000"_s);
+    m_prompts.expectedMessages = {39};
+    EXPECT_EQ(during(add), shownAndTakenAway) << "a date that was refused";
+    ExpectAtRest(u"1/19/2000"_s);
 }
 
 // Dates that cannot be read

@@ -219,6 +219,27 @@ TEST(Twips, AreFifteenToAPixelAtNinetySixDotsAnInch)
     EXPECT_EQ(PixelsToTwips(567, 96), 8505);
 }
 
+TEST_F(Dialogs, OverADialogAMessageStandsAsFarFromTheMainWindowAsElsewhere)
+{
+    m_window.move(100, 50);
+    QDialog settings(&m_window);
+    settings.setModal(true);
+    settings.move(300, 120);
+    settings.show();
+    const QPoint corner = m_window.frameGeometry().topLeft();
+    const auto offset = [&](const std::function<void()>& open) {
+        QPoint place;
+        WhenNextModalOpens([&](QWidget* box) {
+            place = box->pos() - corner;
+            QTest::keyClick(box, Qt::Key_Escape);
+        });
+        open();
+        return place;
+    };
+    EXPECT_EQ(offset([&] { Show(m_shared, m_prompts, {.number = 27}); }), QPoint(240, 133));
+    EXPECT_EQ(offset([&] { (void)Ask(m_shared, m_prompts, 1); }), QPoint(233, 133));
+}
+
 TEST_F(Dialogs, TheBusyPointerIsShownOnceAndTakenAwayOnce)
 {
     m_prompts.SetBusyPointer(true);
@@ -283,6 +304,30 @@ TEST_F(FileDialogs, OpeningStartsOnTheFileInMemoryAndReturnsTheFullPath)
     m_prompts.FileDirectory();
     EXPECT_EQ(m_shared.chosenPath, m_folder.filePath(u"Mine.Lto"_s));
     EXPECT_EQ(m_shared.fileDialogMode, 1);
+}
+
+TEST_F(FileDialogs, EachModeOpensOrSavesUnderItsFilterAndProposesItsName)
+{
+    QFile statement(m_folder.filePath(u"Mine.inv"_s));
+    ASSERT_TRUE(statement.open(QIODevice::WriteOnly));
+    m_shared.database.fileName = u"Mine.Lto"_s;
+    m_shared.investmentFileName = u"Mine.inv"_s;
+    for (const int mode : {1, 2, 3, 4}) {
+        SCOPED_TRACE(mode);
+        m_shared.fileDialogMode = static_cast<qint16>(mode);
+        const QString name = FileDir::ProposedName(m_shared);
+        WhenModalOpens([&](QWidget* window) {
+            auto* dialog = qobject_cast<QFileDialog*>(window);
+            ASSERT_NE(dialog, nullptr);
+            EXPECT_EQ(dialog->acceptMode(),
+                      mode % 2 == 1 ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+            EXPECT_EQ(dialog->nameFilters(), QStringList{FileDir::Filter(qint16(mode))});
+            EXPECT_EQ(dialog->selectedNameFilter(), FileDir::Filter(qint16(mode)));
+            EXPECT_EQ(dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->text(), name);
+            dialog->close();
+        });
+        m_prompts.FileDirectory();
+    }
 }
 
 TEST_F(FileDialogs, SavingTakesTheNameAsItIsTyped)

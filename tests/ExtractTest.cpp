@@ -145,6 +145,18 @@ TEST_F(ExtractForm, ExtractsTheRangeAndShowsItInTheEditor)
     EXPECT_EQ(Cell(u"DGrid2"_s, 0, 8), u"5"_s);
 }
 
+TEST_F(ExtractForm, TheBusyPointerIsShownUntilTheEditorShowsTheRange)
+{
+    StartWith(20);
+    Extracting([this](QWidget&) {
+        Press(u"EHelp"_s);
+        EXPECT_TRUE(m_prompts.busyChanges.empty());
+        Press(u"EExtractRecs"_s);
+    });
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+    EXPECT_EQ(m_prompts.busyChanges, (std::deque<bool>{true, false}));
+}
+
 TEST_F(ExtractForm, ByTheKeyboardAlone)
 {
     StartWith(20);

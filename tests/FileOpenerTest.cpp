@@ -50,6 +50,18 @@ TEST(FileOpener, RefusesAFileWhileADialogWaits)
     EXPECT_EQ(opened, QStringList{u"/lotteries/b.lto"_s});
 }
 
+TEST(FileOpener, RefusesAFileWhileTheProgramWorks)
+{
+    QStringList opened;
+    const FileOpener opener([&](const QString& path) { opened << path; });
+    HandOver(u"/lotteries/a.lto"_s);
+    QApplication::setOverrideCursor(Qt::WaitCursor); // begun before the file could be opened
+    QCoreApplication::processEvents();
+    QApplication::restoreOverrideCursor();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(opened, QStringList());
+}
+
 TEST(FileOpener, OpensNothingAfterItsEnd)
 {
     QStringList opened;

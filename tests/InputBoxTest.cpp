@@ -222,6 +222,21 @@ TEST_F(InputBoxes, TheClipboardIsEmptiedWhenABoxGetsAndLosesTheFocus)
     EXPECT_EQ(QApplication::clipboard()->text(), QString());
 }
 
+TEST_F(InputBoxes, TheClipboardIsEmptiedAlsoWhenTheBoxHasTheFocusAsItsWindowOpens)
+{
+    FollowOneToTen();
+    QApplication::clipboard()->setText(u"7"_s);
+    QFocusEvent opening(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(&m_box, &opening);
+    EXPECT_EQ(QApplication::clipboard()->text(), QString());
+    QApplication::clipboard()->setText(u"8"_s); // copied in another window meanwhile
+    QFocusEvent going(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(&m_box, &going);
+    QFocusEvent coming(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(&m_box, &coming);
+    EXPECT_EQ(QApplication::clipboard()->text(), u"8"_s);
+}
+
 TEST_F(InputBoxes, NothingCanBePasted)
 {
     FollowOneToTen();

@@ -219,6 +219,24 @@ TEST_F(Editor, TheCheckBoxSwitchesToDrawsSinceLastDrawnAndBack)
     EXPECT_EQ(Cell(u"DGrid2"_s, 0, 1), u"2"_s);
 }
 
+TEST_F(Editor, CountsThatAreAllZeroNameNoTopNumbersAndKeepTheCaption)
+{
+    FillDatabase(1);
+    m_shared.database.columns = 3;
+    m_shared.database.highest = 1;
+    OpenEditor();
+    const QString caption = TextOf(u"Label4"_s);
+    EXPECT_TRUE(caption.startsWith(u"Showing the count of times numbers drawn."_s)) << caption.toStdString();
+    EXPECT_EQ(m_shared.topNumbersText.at(1), caption);
+    EXPECT_EQ(Cell(u"DGrid2"_s, 0, 0), u"1"_s);
+    ClickBox(u"WhichCnt"_s); // the one number was drawn in the last draw
+    EXPECT_EQ(m_shared.WhichCnt, CountMode::SinceLastDrawn);
+    EXPECT_EQ(TextOf(u"Label4"_s), caption);
+    EXPECT_EQ(m_shared.topNumbersText, (std::array<QString, 4>{}));
+    EXPECT_EQ(Cell(u"DGrid2"_s, 0, 0), u"0"_s);
+    EXPECT_EQ(Cell(u"DGrid2"_s, 0, 1), QString());
+}
+
 TEST_F(Editor, OpensShowingTimesDrawnWhateverWasShownBefore)
 {
     FillDatabase(2);
@@ -522,6 +540,36 @@ TEST_F(Editor, TheHighestNumberOfAnEmptyDatabaseChangesTheHeadings)
     EXPECT_EQ(Heading(u"DGrid3"_s, 4), u"25"_s);
     EXPECT_EQ(Heading(u"DGrid3"_s, 5), QString());
     EXPECT_EQ(Heading(u"DGrid4"_s, 0), QString());
+}
+
+TEST_F(Editor, TheBoundsOfTheShapeAreTakenWithoutAMessage)
+{
+    OpenEditor();
+    const struct {
+        QString picks;
+        QString picksAfter;
+        QString highest;
+        QString highestAfter;
+        LotteryShape shape;
+    } cases[] = {{u"10"_s, u"10"_s, u"60"_s, u"60"_s, {10, 60}}, {u"1"_s, u" 1"_s, u"1"_s, u" 1"_s, {1, 1}}};
+    for (const auto& bounds : cases) {
+        TypeInto(u"NumCol"_s, bounds.picks);
+        QTest::keyClick(&Box(u"NumCol"_s), Qt::Key_Return);
+        Settle();
+        TypeInto(u"HighNum"_s, bounds.highest);
+        QTest::keyClick(&Box(u"HighNum"_s), Qt::Key_Return);
+        Settle();
+        EXPECT_EQ(Box(u"NumCol"_s).text(), bounds.picksAfter);
+        EXPECT_EQ(Box(u"HighNum"_s).text(), bounds.highestAfter);
+        EXPECT_EQ(m_shared.database.Shape(), bounds.shape);
+        EXPECT_EQ(m_shared.database.columns, bounds.shape.picks + 2);
+        EXPECT_EQ(Find<QTableView>(u"DGrid1"_s).model()->columnCount(), bounds.shape.picks + 2);
+        for (int i = 0; i < 10; ++i) {
+            EXPECT_EQ(NumberBox(i).isVisible(), i < bounds.shape.picks) << i;
+        }
+        EXPECT_EQ(Heading(u"DGrid4"_s, 19), bounds.shape.highest == 60 ? u"60"_s : QString());
+        EXPECT_EQ(Heading(u"DGrid2"_s, 1), bounds.shape.highest == 60 ? u"2"_s : QString());
+    }
 }
 
 TEST_F(Editor, AShapeOutOfBoundsBringsItsMessageAndTheOldValue)
@@ -872,6 +920,32 @@ TEST_F(Editor, OpensAnewWithNothingLeftOfTheLastTime)
     Click(u"DBaseForm"_s);
     EXPECT_EQ(TextOf(u"Label4"_s), u"Showing the number of times drawn"_s);
     EXPECT_EQ(m_shared.topNumbersText, (std::array<QString, 4>{}));
+    for (const QString& grid : {u"DGrid2"_s, u"DGrid3"_s, u"DGrid4"_s}) {
+        EXPECT_EQ(Cell(grid, 0, 0), QString()) << grid.toStdString();
+    }
+    EXPECT_EQ(m_shared.NumberStats, NumberTable{});
+    EXPECT_EQ(m_shared.sortedNumberStats, NumberTable{});
+}
+
+TEST_F(Editor, TheHelpGivesWayToTheRecordsWhenTheyChange)
+{
+    FillDatabase(5);
+    OpenEditor();
+    const auto& records = Find<QTableView>(u"DGrid1"_s);
+    Click(u"DHelp"_s);
+    ASSERT_FALSE(records.isVisible());
+    TypeDraw({u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s});
+    Click(u"DCalc"_s);
+    EXPECT_EQ(m_shared.database.count, 6);
+    EXPECT_TRUE(records.isVisible());
+    EXPECT_EQ(Find<QPushButton>(u"DHelp"_s).text(), u"Quick &Help"_s);
+    Click(u"DHelp"_s);
+    OnDialog([](QWidget& dialog) {
+        In<QAbstractButton>(dialog, u"CorInsDel3"_s).click();
+        ClickIn(dialog, u"Accept"_s);
+    });
+    Click(u"DCorrectRec"_s);
+    EXPECT_TRUE(records.isVisible()) << "after a sort";
 }
 
 TEST_F(Editor, LinesOfTopNumbersDoNotOutliveTheirCounts)

@@ -960,7 +960,7 @@ TEST_F(InvestmentTracker, AnotherNameThanMyfileDotInvIsNeitherReadNorWritten)
     }
 }
 
-TEST_F(InvestmentTracker, AFileThatIsNotAsItWasCalculatedSaysSoAndIsCountedBeforePrintingAndSaving)
+TEST_F(InvestmentTracker, AFileThatIsNotAsItWasCalculatedSaysSoPrintsWhatItCountsAndIsCountedBeforeSaving)
 {
     Open();
     for (const QByteArray count : {"1", "0"}) {
@@ -969,11 +969,17 @@ TEST_F(InvestmentTracker, AFileThatIsNotAsItWasCalculatedSaysSoAndIsCountedBefor
         EXPECT_TRUE(ChangeIsShown());
         EXPECT_EQ(m_shared.InvestmentRowCount, count.toFloat());
         EXPECT_EQ(At(3, kText), u"c"_s) << "what the count leaves out is seen";
-        m_prompts.answers = {true};
-        Click(u"IPrinter"_s);
-        const QString paper = PagesText(m_prompts.printed.back());
-        EXPECT_TRUE(paper.contains(u" 3.00"_s));
-        EXPECT_TRUE(paper.contains(u" 6.00"_s)) << "the Total of what is printed";
+        if (count == "0") {
+            m_prompts.expectedMessages = {1};
+            Click(u"IPrinter"_s);
+            EXPECT_EQ(LastMessage(), u"No data to print."_s);
+        } else {
+            m_prompts.answers = {true};
+            Click(u"IPrinter"_s);
+            const QString paper = PagesText(m_prompts.printed.back());
+            EXPECT_FALSE(paper.contains(u" 2.00"_s)) << "as on the screen: its one row and the Total of that";
+            EXPECT_EQ(paper.count(u" 1.00"_s), 2);
+        }
         EXPECT_TRUE(ChangeIsShown()) << "printing changes nothing in the form";
         SaveAs(u"Saved.inv"_s);
         EXPECT_TRUE(Bytes(u"Saved.inv"_s).startsWith("3\r\n\"a\",1\r\n\"b\",2\r\n\"c\",3\r\n,\r\n"));
@@ -982,6 +988,22 @@ TEST_F(InvestmentTracker, AFileThatIsNotAsItWasCalculatedSaysSoAndIsCountedBefor
         Click(u"IExit"_s); // it was not changed by the user, and is saved
         Click(u"InvTrack"_s);
     }
+}
+
+TEST_F(InvestmentTracker, ADescriptionOfAnyLengthIsKeptWholeAndShownInPart)
+{
+    Open();
+    const QByteArray description(1 << 20, 'W');
+    PlaceFile(u"Long.inv"_s, "1\r\n\"" + description + "\",1\r\n");
+    Load(u"Long.inv"_s);
+    EXPECT_EQ(At(1, kText), QString(1000, u'W'));
+    EXPECT_EQ(m_shared.InvestmentRows.at(1).description.size(), 1 << 20);
+    SaveAs(u"Saved.inv"_s);
+    EXPECT_TRUE(Bytes(u"Saved.inv"_s).startsWith("1\r\n\"" + description + "\",1\r\n"));
+    m_shared.settings.userName = QString(1 << 20, u'@');
+    m_prompts.answers = {true};
+    Click(u"IPrinter"_s);
+    EXPECT_EQ(PagesText(m_prompts.printed.back()).count(u'@'), 200);
 }
 
 TEST_F(InvestmentTracker, LeavingWhatWasLoadedAndNotTouchedDoesNotAsk)

@@ -519,6 +519,25 @@ TEST_F(Selectorium, LeavingABoxClearsTheDisplayButNotTheSets)
     }
 }
 
+TEST_F(Selectorium, LeavingAPositionClearsTheDisplayButNotTheSets)
+{
+    FillDatabase(12);
+    Open();
+    Click(u"Option2"_s);
+    for (const QString& box : {u"InStartNo"_s, u"InEndNo"_s}) {
+        Click(u"PCalc"_s);
+        EXPECT_FALSE(GridIsEmpty());
+        EXPECT_NE(TextOf(u"FromNums"_s), QString());
+        Box(box).setFocus(Qt::TabFocusReason);
+        EXPECT_FALSE(GridIsEmpty());
+        Find<QPushButton>(u"PHelp"_s).setFocus(Qt::TabFocusReason);
+        EXPECT_TRUE(GridIsEmpty()) << box.toStdString();
+        EXPECT_EQ(TextOf(u"PickFrom"_s), u" Picked from numbers "_s);
+        EXPECT_EQ(TextOf(u"FromNums"_s), QString());
+        EXPECT_NE(m_shared.PickTable.at(1).at(1), 0);
+    }
+}
+
 TEST_F(Selectorium, ACommandIsNotRunWhenTheBoxLeftForItBringsAMessage)
 {
     Open();
@@ -559,6 +578,31 @@ TEST_F(Selectorium, TheOptionsEnableThePositionsAndDisableThem)
     Click(u"Option1"_s);
     EXPECT_FALSE(Box(u"InStartNo"_s).isEnabled());
     EXPECT_FALSE(Box(u"InEndNo"_s).isEnabled());
+}
+
+TEST_F(Selectorium, TheFullRangeAndFewerPicksLeaveTheSetsOnDisplay)
+{
+    FillDatabase(12);
+    Open();
+    Click(u"Option2"_s);
+    Click(u"PCalc"_s);
+    const QStringList set = Row(0);
+    const QString heading = TextOf(u"PickFrom"_s);
+    const QString numbers = TextOf(u"FromNums"_s);
+    ASSERT_FALSE(GridIsEmpty());
+    ASSERT_NE(heading, u" Picked from numbers "_s);
+    ASSERT_NE(numbers, QString());
+    const std::vector<std::function<void()>> clicks{[this] { Click(u"Option1"_s); },
+                                                    [this] { ClickBox(u"ChkDBPicks"_s); },
+                                                    [this] { ClickBox(u"ChkDBPicks"_s); }};
+    for (const auto& click : clicks) {
+        click();
+        EXPECT_EQ(Row(0), set);
+        EXPECT_EQ(TextOf(u"PickFrom"_s), heading);
+        EXPECT_EQ(TextOf(u"FromNums"_s), numbers);
+    }
+    EXPECT_TRUE(Checked(u"Option1"_s));
+    EXPECT_FALSE(Checked(u"ChkDBPicks"_s)); // clicked twice
 }
 
 TEST_F(Selectorium, AnArrowKeyChoosesAnOptionAsAClickDoes)
@@ -857,6 +901,24 @@ TEST_F(Selectorium, PicksFromTheNumbersAtSortedPositions)
     EXPECT_EQ(m_shared.sortedNumberStats, sorted);
 }
 
+TEST_F(Selectorium, WhateverTheTableWasSortedByBeforeTheHighestCountComesFirst)
+{
+    FillDatabase(30);
+    Open();
+    const NumberTable counts = CountNumbers(m_shared.database, CountMode::TimesDrawn);
+    ASSERT_NE(SortNumbers(counts, 49, kNumberOrder), SortNumbers(counts, 49, 0));
+    m_shared.sortMode = kNumberOrder;
+    Click(u"PCalc"_s); // from the full range
+    EXPECT_FALSE(GridIsEmpty());
+    EXPECT_EQ(m_shared.sortMode, 0);
+    ChoosePositions(u"1"_s, u"25"_s);
+    m_shared.sortMode = kNumberOrder;
+    Click(u"PCalc"_s);
+    EXPECT_FALSE(GridIsEmpty());
+    EXPECT_EQ(m_shared.sortMode, 0);
+    EXPECT_EQ(m_shared.sortedNumberStats, SortNumbers(counts, 49, 0));
+}
+
 TEST_F(Selectorium, TheHeadingSaysWhatThePositionsWereSortedBy)
 {
     FillDatabase(30);
@@ -1001,6 +1063,21 @@ TEST_F(Selectorium, SelectAllShowsTwentyOneRowsOfWhichTheLastIsEmptyAndScrolls)
     EXPECT_EQ(Box(u"InNumRows"_s).text(), u"1"_s);
     EXPECT_EQ(Grid().model()->rowCount(), 10);
     EXPECT_EQ(Grid().verticalScrollBar()->value(), 0);
+}
+
+TEST_F(Selectorium, SelectAllShowsItsFirstRowsWhereverTheGridWasScrolledTo)
+{
+    Open();
+    Put(u"InHighNum"_s, u"60"_s);
+    Put(u"InColNum"_s, u"3"_s);
+    Click(u"CalcAllNum"_s);
+    QScrollBar& bar = *Grid().verticalScrollBar();
+    Grid().scrollToBottom();
+    ASSERT_GT(bar.value(), 0);
+    Click(u"CalcAllNum"_s);
+    Settle();
+    EXPECT_GT(bar.maximum(), 0);
+    EXPECT_EQ(bar.value(), 0);
 }
 
 TEST_F(Selectorium, SelectAllRefusesMoreThanTwentyRows)
@@ -1462,6 +1539,19 @@ TEST_F(Selectorium, ATextPutIntoABoxWhileTheBallsRollChangesNothingOfWhatIsShown
     Click(u"PCalc"_s); // the next calculation works with what was put there, within its limits
     EXPECT_EQ(Row(0).size(), 4);
     EXPECT_EQ(Box(u"InHighNum"_s).text(), u"60"_s);
+}
+
+TEST_F(Selectorium, APositionBeyondAllNumbersGivesNoSet)
+{
+    FillDatabase(30);
+    Open();
+    ChoosePositions(u"1"_s, u"25"_s);
+    Put(u"InStartNo"_s, u"100000000000"_s); // as an assistive program may, without the check on leaving
+    Put(u"InEndNo"_s, u"10000000000000"_s);
+    m_prompts.expectedMessages = {7};
+    Click(u"PCalc"_s);
+    EXPECT_EQ(m_shared.PickTable, SetTable{});
+    EXPECT_FALSE(TextOf(u"PickFrom"_s).contains(u'-'));
 }
 
 TEST_F(Selectorium, ASecondClickOfADoubleClickOnCalculateIsNotASecondCalculation)

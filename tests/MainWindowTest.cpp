@@ -205,6 +205,31 @@ TEST_F(MainWindow, ThePrintoutShowsTheCountThatWasLastChosen)
     EXPECT_EQ(m_shared.linesPerPage, 56);
 }
 
+TEST_F(MainWindow, TheCountChosenInAFormReachesThePaper)
+{
+    struct Way {
+        QString open;
+        QString count;
+        QString exit;
+    };
+    Start();
+    FillDatabase(3);
+    for (const Way& way : {Way{u"DBaseForm"_s, u"WhichCnt"_s, u"DExit"_s},
+                           Way{u"ShowGraph1"_s, u"GWhichCnt"_s, u"ExitGrp"_s}}) {
+        m_shared.WhichCnt = CountMode::TimesDrawn;
+        m_prompts.printed.clear();
+        Click(way.open);
+        ClickBox(way.count);
+        Click(way.exit);
+        m_prompts.answers = {true};
+        Click(u"PrintDbase"_s);
+        ASSERT_EQ(m_prompts.printed.size(), 1U) << way.open.toStdString();
+        const QString text = PagesText(m_prompts.printed.front());
+        EXPECT_TRUE(text.contains(u"Number of draws since last drawn"_s)) << way.open.toStdString();
+        EXPECT_FALSE(text.contains(u"Showing the count of times numbers drawn"_s)) << way.open.toStdString();
+    }
+}
+
 TEST_F(MainWindow, TheEditorTakesTheMenusPlaceAndGivesItBack)
 {
     Start();
@@ -321,6 +346,47 @@ TEST_F(MainWindow, SavingAnEmptyDatabaseSaysNoRecordsAndShowsTheMenu)
     EXPECT_EQ(m_shared.database.modified, 0);
 }
 
+TEST_F(MainWindow, TheMenuIsHiddenWhileAFileIsChosen)
+{
+    Start();
+    FillDatabase(3);
+    int dialogs = 0;
+    m_prompts.onFileDialog = [&] {
+        ++dialogs;
+        EXPECT_FALSE(m_window.Menu().isVisible());
+        EXPECT_EQ(FrontForm(), QString());
+    };
+    for (const QString& file : {m_folder.filePath(u"New.Lto"_s), QString()}) {
+        m_prompts.files = {file};
+        Click(u"SaveFile"_s);
+        EXPECT_TRUE(m_window.Menu().isVisible());
+        EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
+        m_prompts.files = {file};
+        Click(u"LoadFile"_s);
+        EXPECT_FALSE(m_window.Menu().isVisible());
+        EXPECT_EQ(FrontForm(), u"LDbase"_s);
+        Click(u"DExit"_s);
+    }
+    EXPECT_EQ(dialogs, 4);
+}
+
+TEST_F(MainWindow, TheMenuIsHiddenBehindTheMessagesOfOpeningAndSaving)
+{
+    Start();
+    int messages = 0;
+    m_prompts.onMessage = [&] {
+        ++messages;
+        EXPECT_FALSE(m_window.Menu().isVisible()) << m_shared.messageNumber;
+        EXPECT_EQ(FrontForm(), QString()) << m_shared.messageNumber;
+    };
+    m_prompts.expectedMessages = {15, 13};
+    Click(u"SaveFile"_s);
+    EXPECT_TRUE(m_window.Menu().isVisible());
+    m_prompts.files = {m_folder.filePath(u"Nowhere.Lto"_s)};
+    Click(u"LoadFile"_s);
+    EXPECT_EQ(messages, 2);
+}
+
 TEST_F(MainWindow, AFileNamedAtTheStartOpensWithoutADialog)
 {
     WriteFile(u"Named.Lto"_s, kTwoDraws);
@@ -355,6 +421,71 @@ TEST_F(MainWindow, AStatementNamedAtTheStartThatIsNotThereGivesItsMessageInTheTr
     EXPECT_EQ(FrontForm(), u"LInvTrack"_s);
     EXPECT_EQ(m_shared.investmentFileName, QString());
     EXPECT_EQ(m_shared.dialogFolder, QString());
+}
+
+TEST_F(MainWindow, NoTitleOfAFileMakesAFormWider)
+{
+    Start();
+    Settle();
+    FillDatabase(30);
+    const QSize before = m_window.size();
+    constexpr int kMillion = 1 << 20;
+    for (const QString& title :
+         {QString(100, u'W'), QString(kMillion, u'W'), u"Wide words "_s.repeated(kMillion / 11)}) {
+        m_shared.database.title = title;
+        for (const QString& button : {u"PickForm"_s, u"CheckWin"_s, u"ShowGraph1"_s, u"DBaseForm"_s}) {
+            m_window.ShowForm(FormName::LotoMenu);
+            Click(button);
+            Settle();
+            EXPECT_EQ(m_window.size(), before) << button.toStdString() << ' ' << title.left(10).toStdString();
+        }
+    }
+}
+
+TEST_F(MainWindow, AFileThatCannotBeOpenedLeavesNoCountsOfTheOneBefore)
+{
+    FillDatabase(30);
+    OpenEditor();
+    ASSERT_NE(Cell(u"DGrid2"_s, 0, 0), QString());
+    Click(u"DExit"_s);
+    m_prompts.expectedMessages = {13};
+    m_window.OpenNamedFile(m_folder.filePath(u"None.Lto"_s));
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+    for (const QString& grid : {u"DGrid2"_s, u"DGrid3"_s, u"DGrid4"_s}) {
+        EXPECT_EQ(Cell(grid, 0, 0), QString()) << grid.toStdString();
+    }
+}
+
+TEST_F(MainWindow, AFileHandedOverIsOpenedInTheMenu)
+{
+    WriteFile(u"Named.Lto"_s, kTwoDraws);
+    Start();
+    m_window.OpenHandedFile(m_folder.filePath(u"Named.Lto"_s));
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+    EXPECT_EQ(m_shared.database.fileName, u"Named.Lto"_s);
+    m_window.OpenHandedFile(m_folder.filePath(u"Named.Lto"_s));
+    EXPECT_EQ(m_prompts.notices,
+              QStringList{u"\"Named.Lto\" is not opened yet: go back to the menu first."_s});
+    EXPECT_EQ(FrontForm(), u"LDbase"_s);
+}
+
+TEST_F(MainWindow, AFileHandedOverToTheTrackerNeverTakesAwayWhatWasTyped)
+{
+    WriteFile(u"Named.Lto"_s, kTwoDraws);
+    WriteFile(u"Named.inv"_s, "1\r\n\"Tickets\",-12\r\n");
+    Start();
+    Click(u"InvTrack"_s);
+    QTest::keyClicks(&Find<QTableView>(u"IGrid"_s), u"Mine"_s);
+    m_window.OpenHandedFile(m_folder.filePath(u"Named.Lto"_s));
+    EXPECT_EQ(m_prompts.notices.size(), 1);
+    EXPECT_EQ(FrontForm(), u"LInvTrack"_s);
+    m_prompts.answers = {true}; // go back and save
+    m_window.OpenHandedFile(m_folder.filePath(u"Named.inv"_s));
+    EXPECT_EQ(m_prompts.askedTexts.size(), 1);
+    EXPECT_EQ(Cell(u"IGrid"_s, 0, 0), u"Mine"_s);
+    m_prompts.answers = {false};
+    m_window.OpenHandedFile(m_folder.filePath(u"Named.inv"_s));
+    EXPECT_EQ(Cell(u"IGrid"_s, 0, 0), u"Tickets"_s);
 }
 
 TEST_F(MainWindow, AFileNamedAtTheStartThatIsNotThereLeavesTheFolderOfTheFileDialog)
@@ -471,6 +602,19 @@ TEST_F(MainWindow, FormsStandAtTheirPlacesInBothLayouts)
     m_window.resize(641, 458);
     Settle();
     EXPECT_EQ(menu.pos(), QPoint(-4, -2));
+}
+
+TEST_F(MainWindow, TheSelectoriumStandsAtItsPlaceInBothLayouts)
+{
+    Start();
+    Click(u"PickForm"_s);
+    EXPECT_EQ(Find<QWidget>(u"Lottery"_s).pos(), QPoint(-4, -2));
+    Click(u"PExit"_s);
+    m_window.resize(1280, 800);
+    Settle();
+    Click(u"PickForm"_s);
+    EXPECT_EQ(Find<QWidget>(u"Lottery"_s).pos(), QPoint(80, 67));
+    EXPECT_EQ(Find<QWidget>(u"Lottery"_s).size(), QSize(1280 - 160, 800 - 134));
 }
 
 TEST_F(MainWindow, EveryControlOfTheMenuAndTheEditorFitsTheOpeningSize)

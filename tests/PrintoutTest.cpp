@@ -125,6 +125,13 @@ TEST(Printout, EveryPrintedCharacterIsOneColumnWide)
         (QStringList{{}, u"Lotería Łódź Λαχείο Лото €"_s, u"??? 6/49"_s, u"lucky ?!"_s, u"Lotería x"_s}));
 }
 
+TEST(Printout, DigitsOfOtherScriptsArePrintedAsThoseOfEveryFont)
+{
+    Printout printout = Prepared();
+    printout.PrintLine(u"\u0665/\u06F3/\u0968\u09E6\u1042\u0664"_s); // dates in five scripts
+    EXPECT_EQ(PageLines(printout.Document(), 1), (QStringList{{}, u"5/3/2024"_s}));
+}
+
 TEST(Printout, ADocumentIsNamedInAHundredCharacters)
 {
     EXPECT_EQ(Printout(QString(70'000, u'n'), kStandardFont).Document().name, QString(100, u'n'));

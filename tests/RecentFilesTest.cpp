@@ -105,6 +105,15 @@ TEST_F(RecentFilesList, WhatIsNoPathInItIsPassedOver)
     EXPECT_EQ(BytesOf(list), "file:///new.Lto\nfile:///good.Lto\nfile:///also%20good.inv\n");
 }
 
+TEST_F(RecentFilesList, OfAFileThatIsNoListTheBeginningAloneIsLookedAt)
+{
+    ASSERT_TRUE(QDir(m_folder.path()).mkpath(u"settings"_s));
+    Place(list, QByteArray(999, '\n') + "file:///last.Lto\nfile:///later.Lto\n");
+    EXPECT_EQ(Kept(), QStringList{u"/last.Lto"_s}) << "a thousand lines";
+    Place(list, "file:///" + QByteArray(1 << 20, 'x') + "\nfile:///next.Lto");
+    EXPECT_EQ(Kept(), QStringList{u"/next.Lto"_s});
+}
+
 TEST_F(RecentFilesList, AFolderInItsPlaceIsLeftAloneAndGoesUnsaid)
 {
     ASSERT_TRUE(QDir().mkpath(list));

@@ -199,7 +199,15 @@ check_fault() {
             ;;
         esac
         ;;
-    3) [[ -n $said ]] || fail "$step: no reason" ;;
+    3)
+        [[ -n $said ]] || fail "$step: no reason"
+        # The new content under a refusal is only what a fault after the file was put in its place leaves.
+        local owned_up=no
+        [[ $said == *"The new file is in its place"* ]] && owned_up=yes
+        if [[ ($seed == 2 && $owned_up == no) || ($seed == 1 && $owned_up == yes) ]]; then
+            fail "$step: the file holds $seed, and the reason is \"$said\""
+        fi
+        ;;
     *) fail "$step: exit status $status: $said" ;;
     esac
 }
@@ -211,6 +219,11 @@ check_all_calls() {
     [[ $status == 0 ]] || fail "no fault at all$way: exit status $status: $said"
     calls_of_a_save >"$work/calls"
     grep -q '^write ' "$work/calls" || fail "no write was seen$way"
+    # A power cut cannot be tried here; that the content is forced onto the disk before it takes the old one's place,
+    # and the folder's entry after it, can.
+    awk '/^fsync / { if (placed) after = 1; else before = 1 }
+        /^(rename|link)/ { placed = 1; after = 0 }
+        END { exit !(before && placed && after) }' "$work/calls" || fail "$kind: not forced onto the disk$way"
     while read -r call ordinal; do
         [[ $forced == *"inject=$call:"* ]] && continue # a call can be given one fault only
         check_fault "$call" "$ordinal" error=EIO "$@"

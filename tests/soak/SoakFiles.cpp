@@ -56,18 +56,20 @@ bool SoakFiles::Make(const QString& folder)
 {
     m_folder = folder;
     const QByteArray some = MadeDatabase(6, 49, 60);
+    const QByteArray wide = QByteArray(some).replace("Soak 6/49", QByteArray(50000, 'W'));
     const QByteArray older = "2,8,49,\"Older\",3,0,7\r\n1,#2004-03-10#,5,12,23,34,41,49,0,0,0,0\r\n"
                              "2,#2004-03-13#,3,8,19,27,30,44,0,0,0,0\r\n";
-    const bool databases =
-        Put(u"Some.Lto"_s, some, m_databases) && Put(u"One.Lto"_s, MadeDatabase(1, 60, 30), m_databases) &&
-        Put(u"Ten.Lto"_s, MadeDatabase(10, 60, 200), m_databases) &&
-        Put(u"Full.Lto"_s, MadeDatabase(6, 49, 2001), m_databases) &&
-        Put(u"Few.Lto"_s, MadeDatabase(5, 36, 9), m_databases) && Put(u"Older.Lto"_s, older, m_databases) &&
-        Put(u"Cut.Lto"_s, some.first(some.size() / 2), m_databases) &&
-        Put(u"Odd.Lto"_s,
-            "1,300,-5,\"Odd\"\r\n" + QByteArray("9,\"x\"\r\n").repeated(10) +
-                "1,\"no date\",1,2,3,4,5,6,7,8,9,10\r\n",
-            m_databases);
+    const bool databases = Put(u"Some.Lto"_s, some, m_databases) &&
+                           Put(u"One.Lto"_s, MadeDatabase(1, 60, 30), m_databases) &&
+                           Put(u"Ten.Lto"_s, MadeDatabase(10, 60, 200), m_databases) &&
+                           Put(u"Full.Lto"_s, MadeDatabase(6, 49, 2001), m_databases) &&
+                           Put(u"Few.Lto"_s, MadeDatabase(5, 36, 9), m_databases) &&
+                           Put(u"Older.Lto"_s, older, m_databases) && Put(u"Wide.Lto"_s, wide, m_databases) &&
+                           Put(u"Cut.Lto"_s, some.first(some.size() / 2), m_databases) &&
+                           Put(u"Odd.Lto"_s,
+                               "1,300,-5,\"Odd\"\r\n" + QByteArray("9,\"x\"\r\n").repeated(10) +
+                                   "1,\"no date\",1,2,3,4,5,6,7,8,9,10\r\n",
+                               m_databases);
     const QByteArray statement = MadeStatement(40);
     const bool statements =
         Put(u"Some.inv"_s, statement, m_statements) && Put(u"Full.inv"_s, MadeStatement(105), m_statements) &&
