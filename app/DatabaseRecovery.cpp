@@ -10,12 +10,15 @@ Outcome WriteCopy(const LGLOBAL& shared, QByteArray& bytes, RecoveryNote& note)
     const DrawDatabase& database = shared.database;
     note.fileName = database.fileName;
     note.folder = shared.databaseOnDisk.folder;
-    note.title = database.title;
     note.records = database.count;
     if (!database.title.contains(u'"')) {
+        // All of it is in the file; twice a title of any length, and the copy might be too large to be read.
+        constexpr qsizetype kShown = 200;
+        note.title = database.title.left(kShown);
         return WriteLotteryFile(database, shared.locale, bytes, WrittenFor::ARecoveryCopy);
     }
-    DrawDatabase untitled = database; // the note has the title
+    note.title = database.title;
+    DrawDatabase untitled = database;
     untitled.title.clear();
     return WriteLotteryFile(untitled, shared.locale, bytes, WrittenFor::ARecoveryCopy);
 }
@@ -43,7 +46,7 @@ Outcome TakeRecoveredDatabase(LGLOBAL& shared, const RecoveredWork& work)
         return Outcome::Failure(reading.reason);
     }
     const RecoveryNote note = work.note.value_or(RecoveryNote{});
-    if (work.note) {
+    if (reading.content->title.isEmpty()) {
         reading.content->title = note.title;
     }
     ReplaceDatabase(shared.database, std::move(*reading.content), note.fileName);

@@ -262,7 +262,7 @@ void RemoveAll(const QFileInfoList& files)
 QString Shortened(const QString& name)
 {
     constexpr qsizetype kMost = 40;
-    const QString line = name.simplified(); // a file may hold a title of several lines
+    const QString line = name.left(10 * kMost).simplified(); // a file may hold a title of several lines
     return line.size() <= kMost ? line : line.left(kMost - 3) + u"..."_s;
 }
 

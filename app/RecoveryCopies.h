@@ -23,7 +23,7 @@ enum class WorkKind { Database, Statement };
 struct RecoveryNote {
     QString fileName{}; ///< the work's own file, without folder; "" for none
     QString folder{};   ///< of that file, an absolute path; "" for none
-    QString title{};    ///< of the lottery; here also what a lottery file cannot hold of it
+    QString title{};    ///< of the lottery: its beginning; all of it where the copy's file cannot hold it
     int records = 0;    ///< records of the database, or rows of the statement
     QDateTime time{};   ///< when the copy was made
     QString host{};     ///< the computer it was made on

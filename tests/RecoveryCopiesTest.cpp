@@ -677,6 +677,26 @@ TEST_F(KeptDatabaseTest, ATitleThatNoFileCanHoldComesBack)
     }
 }
 
+TEST_F(KeptDatabaseTest, ATitleThatFillsTheLargestFileComesBackFromTheDisk)
+{
+    m_shared.database = MadeUpDatabase(6, 49, 2);
+    m_shared.database.title = QString(kLargestFile - 10000, u't');
+    QByteArray bytes;
+    RecoveryNote note;
+    ASSERT_TRUE(m_work.write(bytes, note).ok);
+    OwnRecoveryCopies run(m_folder.filePath(u"recovery"_s), kHere);
+    const Outcome kept = run.Keep(WorkKind::Database, WithNote(bytes, note));
+    ASSERT_TRUE(kept.ok) << kept.reason.toStdString();
+    LeftCopy aside;
+    ASSERT_TRUE(run.SetAside(WorkKind::Database, aside).ok);
+    RecoveredWork work;
+    ASSERT_TRUE(ReadLeftCopy(aside, work).ok);
+    LGLOBAL recovered;
+    ASSERT_TRUE(TakeRecoveredDatabase(recovered, work).ok);
+    EXPECT_TRUE(recovered.database.title == m_shared.database.title);
+    EXPECT_LT(DescribeLeftCopy(aside, QLocale::c(), kHere).size(), 200);
+}
+
 TEST_F(KeptDatabaseTest, WhateverItsFieldsHoldComesBackToTheLastCharacter)
 {
     m_shared.database = MadeUpDatabase(6, 49, 2);
