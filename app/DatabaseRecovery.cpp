@@ -1,29 +1,26 @@
 #include "app/DatabaseRecovery.h"
 
-#include "app/FieldWriter.h"
 #include "app/LotteryFile.h"
 #include "app/WorkFingerprint.h"
 
 namespace {
-
-bool FitsLotteryFile(const QString& title)
-{
-    return FitsFileText(title) && !title.contains(u'"');
-}
 
 Outcome WriteCopy(const LGLOBAL& shared, QByteArray& bytes, RecoveryNote& note)
 {
     const DrawDatabase& database = shared.database;
     note.fileName = database.fileName;
     note.folder = shared.databaseOnDisk.folder;
-    note.title = database.title;
     note.records = database.count;
-    if (FitsLotteryFile(database.title)) {
-        return WriteLotteryFile(database, shared.locale, bytes, NoDates::AreWrittenAsHeld);
+    if (!database.title.contains(u'"')) {
+        // All of it is in the file; twice a title of any length, and the copy might be too large to be read.
+        constexpr qsizetype kShown = 200;
+        note.title = database.title.left(kShown);
+        return WriteLotteryFile(database, shared.locale, bytes, WrittenFor::ARecoveryCopy);
     }
-    DrawDatabase untitled = database; // the note has the title
+    note.title = database.title;
+    DrawDatabase untitled = database;
     untitled.title.clear();
-    return WriteLotteryFile(untitled, shared.locale, bytes, NoDates::AreWrittenAsHeld);
+    return WriteLotteryFile(untitled, shared.locale, bytes, WrittenFor::ARecoveryCopy);
 }
 
 } // namespace
@@ -49,11 +46,12 @@ Outcome TakeRecoveredDatabase(LGLOBAL& shared, const RecoveredWork& work)
         return Outcome::Failure(reading.reason);
     }
     const RecoveryNote note = work.note.value_or(RecoveryNote{});
-    if (work.note) {
+    if (reading.content->title.isEmpty()) {
         reading.content->title = note.title;
     }
     ReplaceDatabase(shared.database, std::move(*reading.content), note.fileName);
     shared.database.modified = 1;
+    shared.databasePath = PathOfWork(note);
     shared.databaseOnDisk = {.folder = note.folder, .fingerprint = 0};
     if (!note.folder.isEmpty()) {
         shared.dialogFolder = note.folder; // where the next dialog finds the work's own file

@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr QByteArrayView kUtf8Mark("\xEF\xBB\xBF");
+
 void AppendWhole(QByteArray& bytes, qint64 value)
 {
     std::array<char, 20> digits; // as many as the longest has, with its sign
@@ -32,6 +34,13 @@ void AppendPadded(QByteArray& bytes, int value, qsizetype width)
 bool FitsFileText(QStringView text)
 {
     return std::all_of(text.cbegin(), text.cend(), [](QChar ch) { return ch.unicode() <= 0xFF; });
+}
+
+FieldWriter::FieldWriter(FileText fileText) : m_fileText(fileText)
+{
+    if (m_fileText == FileText::Utf8) {
+        m_bytes = kUtf8Mark.toByteArray();
+    }
 }
 
 void FieldWriter::Begin()
@@ -60,11 +69,23 @@ void FieldWriter::Amount(Currency amount)
     m_bytes += amount.Plain().toLatin1();
 }
 
+/// The characters themselves, without signs around them.
+void FieldWriter::Append(const QString& text)
+{
+    if (m_fileText == FileText::Utf8) {
+        m_bytes += text.toUtf8();
+        return;
+    }
+    m_everythingHadAPlace = m_everythingHadAPlace && FitsFileText(text);
+    m_bytes += text.toLatin1();
+}
+
 void FieldWriter::Text(const QString& text)
 {
     Begin();
-    m_everythingHadAPlace = m_everythingHadAPlace && FitsFileText(text);
-    m_bytes += '"' + text.toLatin1() + '"';
+    m_bytes += '"';
+    Append(text);
+    m_bytes += '"';
 }
 
 void FieldWriter::Date(QDate date)
@@ -92,6 +113,24 @@ void FieldWriter::AsHeld(const Cell& cell)
     } else {
         Nothing();
     }
+}
+
+void FieldWriter::Exactly(const Cell& cell)
+{
+    const QString* text = std::get_if<QString>(&cell);
+    if (text == nullptr || !text->contains(u'"')) {
+        AsHeld(cell);
+        return;
+    }
+    // Nothing is escaped, so such a text was read from a field without quotes around it, and goes into one.
+    Begin();
+    const bool isTheFieldItself =
+        !QStringView(u"\"# \t").contains(text->front()) && !QStringView(u" \t").contains(text->back());
+    const auto separates = [](QChar ch) { return ch == u',' || ch == u'\r' || ch == u'\n'; };
+    m_everythingHadAPlace = m_everythingHadAPlace && std::none_of(text->cbegin(), text->cend(), separates);
+    m_bytes += isTheFieldItself ? "" : "#";
+    Append(*text);
+    m_bytes += isTheFieldItself ? "" : "#";
 }
 
 void FieldWriter::EndLine()

@@ -60,6 +60,9 @@ struct LGLOBAL {
     QString programFolder; ///< of "Personal.Lot", "Sample.Lto", "Sample.inv", "Extract.lto"
     QString dialogFolder;  ///< folder the next file dialog opens in: that of the database or statement last
                            ///< opened, or chosen to save to; "" for the current folder
+    /// Called just before the opening of a file, which asks no question, replaces the open database or
+    /// empties it: recovery sets aside then what is not saved. Empty where nobody does.
+    std::function<void()> beforeDatabaseGoes;
     WorkOnDisk databaseOnDisk;
     WorkOnDisk statementOnDisk;
     QString pdfFolder;          ///< folder a PDF file was last saved in; "" for the current folder

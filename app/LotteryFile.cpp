@@ -153,6 +153,95 @@ private:
     QString m_reason;
 };
 
+/// Writes one file front to back.
+class LotteryFileWriter
+{
+public:
+    LotteryFileWriter(const DrawDatabase& database, const QLocale& locale, WrittenFor purpose,
+                      FileText fileText)
+        : m_database(database), m_locale(locale), m_purpose(purpose), m_fields(fileText)
+    {}
+
+    Outcome Write(QByteArray& bytes)
+    {
+        WriteHeader();
+        for (int row = 1; row <= m_database.count; ++row) {
+            if (!WriteRecord(m_database.records.at(static_cast<std::size_t>(row)))) {
+                const Cell& date = m_database.records.at(static_cast<std::size_t>(row)).date;
+                return Outcome::Failure(
+                    u"Record %1 has no date that could be written: \"%2\"."_s.arg(row).arg(CellText(date)));
+            }
+        }
+        if (!m_fields.EverythingHadAPlace()) {
+            return Outcome::Failure(FitsFileText(m_database.title)
+                                        ? u"A field has a value that a lottery file cannot hold."_s
+                                        : u"The title has a character that a lottery file cannot hold."_s);
+        }
+        bytes = m_fields.Bytes();
+        return {};
+    }
+
+private:
+    void WriteHeader()
+    {
+        m_fields.Number(m_database.count);
+        m_fields.Number(m_database.columns);
+        m_fields.Number(m_database.highest);
+        m_fields.Text(m_database.title);
+        m_fields.EndLine();
+        for (std::size_t day = 1; day <= kDrawDayLines; ++day) {
+            WriteText(m_database.drawDays.at(day).carried);
+            WriteNumber(m_database.drawDays.at(day).weekday);
+            m_fields.EndLine();
+        }
+    }
+
+    /// @return false when the date is none and a user's file would not be a lottery file with it
+    bool WriteRecord(const DrawRecord& record)
+    {
+        const std::optional<QDate> date = CellDate(record.date, m_locale);
+        if (!date && m_purpose == WrittenFor::TheUser) {
+            return false;
+        }
+        m_fields.AsHeld(record.number);
+        if (m_purpose == WrittenFor::TheUser) {
+            m_fields.Date(*date);
+        } else {
+            m_fields.Exactly(record.date);
+        }
+        for (const Cell& drawn : record.drawn) {
+            WriteNumber(drawn);
+        }
+        m_fields.EndLine();
+        return true;
+    }
+
+    void WriteText(const Cell& cell)
+    {
+        if (m_purpose == WrittenFor::TheUser) {
+            m_fields.AsHeld(cell);
+        } else {
+            m_fields.Exactly(cell);
+        }
+    }
+
+    /// A user's file holds the number that the cell stands for.
+    void WriteNumber(const Cell& cell)
+    {
+        const bool isOne = !std::holds_alternative<QString>(cell) && !std::holds_alternative<QDate>(cell);
+        if (isOne || m_purpose == WrittenFor::TheUser) {
+            m_fields.Number(CellNumber(cell));
+        } else {
+            m_fields.Exactly(cell);
+        }
+    }
+
+    const DrawDatabase& m_database;
+    const QLocale& m_locale;
+    WrittenFor m_purpose;
+    FieldWriter m_fields;
+};
+
 } // namespace
 
 LotteryReading ReadLotteryFile(const QByteArray& bytes, LotteryLayout layout, const QLocale& locale)
@@ -161,44 +250,13 @@ LotteryReading ReadLotteryFile(const QByteArray& bytes, LotteryLayout layout, co
 }
 
 Outcome WriteLotteryFile(const DrawDatabase& database, const QLocale& locale, QByteArray& bytes,
-                         NoDates noDates)
+                         WrittenFor purpose)
 {
-    FieldWriter writer;
-    writer.Number(database.count);
-    writer.Number(database.columns);
-    writer.Number(database.highest);
-    writer.Text(database.title);
-    writer.EndLine();
-    for (std::size_t day = 1; day <= kDrawDayLines; ++day) {
-        writer.AsHeld(database.drawDays.at(day).carried);
-        writer.Number(CellNumber(database.drawDays.at(day).weekday));
-        writer.EndLine();
+    Outcome written = LotteryFileWriter(database, locale, purpose, FileText::Iso8859).Write(bytes);
+    if (!written.ok && purpose == WrittenFor::ARecoveryCopy) {
+        written = LotteryFileWriter(database, locale, purpose, FileText::Utf8).Write(bytes);
     }
-    for (int row = 1; row <= database.count; ++row) {
-        const DrawRecord& record = database.records.at(static_cast<std::size_t>(row));
-        const std::optional<QDate> date = CellDate(record.date, locale);
-        if (!date && noDates == NoDates::AreRefused) {
-            return Outcome::Failure(u"Record %1 has no date that could be written: \"%2\"."_s.arg(row).arg(
-                CellText(record.date)));
-        }
-        writer.AsHeld(record.number);
-        if (date) {
-            writer.Date(*date);
-        } else {
-            writer.AsHeld(record.date);
-        }
-        for (const Cell& drawn : record.drawn) {
-            writer.Number(CellNumber(drawn));
-        }
-        writer.EndLine();
-    }
-    if (!writer.EverythingHadAPlace()) {
-        return Outcome::Failure(FitsFileText(database.title)
-                                    ? u"A field has a value that a lottery file cannot hold."_s
-                                    : u"The title has a character that a lottery file cannot hold."_s);
-    }
-    bytes = writer.Bytes();
-    return {};
+    return written;
 }
 
 void ReplaceDatabase(DrawDatabase& database, LotteryFileContent&& content, const QString& fileName)

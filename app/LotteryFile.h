@@ -41,15 +41,17 @@ struct LotteryReading {
 [[nodiscard]] LotteryReading ReadLotteryFile(const QByteArray& bytes, LotteryLayout layout,
                                              const QLocale& locale);
 
-/// What becomes of a record's date that is no date.
-enum class NoDates { AreRefused, AreWrittenAsHeld };
+/// Who a file is written for. A recovery copy holds all there is, also what a file of the user's cannot.
+enum class WrittenFor { TheUser, ARecoveryCopy };
 
 /// The bytes of the file of the current layout that holds @p database.
-/// Fails, leaving @p bytes as they are, when a record's date is no date, a number is not finite, or the title
+/// Fails, leaving @p bytes as they are, when a record's date is no date, a number is not finite, or a text
 /// has a character outside ISO 8859-1.
-/// @param noDates  a recovery copy takes dates as they are: it must hold all there is
+/// @param purpose  a recovery copy takes dates and texts as they are, and is written in UTF-8 when a
+/// character
+///                 needs it; of a file that can be written for the user its bytes are the same
 [[nodiscard]] Outcome WriteLotteryFile(const DrawDatabase& database, const QLocale& locale, QByteArray& bytes,
-                                       NoDates noDates = NoDates::AreRefused);
+                                       WrittenFor purpose = WrittenFor::TheUser);
 
 /// Puts what was read in the place of the open database. Its unsaved-changes flag stays as it is.
 void ReplaceDatabase(DrawDatabase& database, LotteryFileContent&& content, const QString& fileName);

@@ -9,11 +9,19 @@
 
 namespace {
 
+void TellThatItGoes(const LGLOBAL& shared)
+{
+    if (shared.beforeDatabaseGoes) {
+        shared.beforeDatabaseGoes();
+    }
+}
+
 void RefuseFile(LGLOBAL& shared, Prompts& prompts, const QString& reason)
 {
     constexpr int kNotFoundOrWrongFormat = 13;
     prompts.SetBusyPointer(false);
     Show(shared, prompts, {.number = kNotFoundOrWrongFormat, .reason = reason});
+    TellThatItGoes(shared);
     shared.database.Empty();
     shared.database.modified = 0;
 }
@@ -86,6 +94,7 @@ bool OpenLotteryFile(LGLOBAL& shared, Prompts& prompts, const QString& path)
         }
         prompts.SetBusyPointer(true);
     }
+    TellThatItGoes(shared);
     ReplaceDatabase(shared.database, std::move(*reading.content), QFileInfo(path).fileName());
     HoldsFile(shared, path);
     return true;

@@ -17,17 +17,21 @@ Recovery::Recovery(LGLOBAL& shared, Prompts& prompts, MDIContainer& window, QStr
 {
     connect(&m_keeper, &RecoveryKeeper::Failed, this, &Recovery::TellTrouble);
     connect(&m_keeper, &RecoveryKeeper::Kept, this, [this] {
-        if (m_trouble != nullptr) {
+        if (m_trouble != nullptr && !m_keeper.IsFailing()) {
             m_trouble->hide();
         }
     });
 }
 
-Recovery::~Recovery() = default;
+Recovery::~Recovery()
+{
+    m_shared.beforeDatabaseGoes = {};
+}
 
 void Recovery::Start(std::chrono::milliseconds pause)
 {
     m_keeper.Start(pause);
+    m_shared.beforeDatabaseGoes = [this] { SetDatabaseAside(); };
     QTimer::singleShot(0, this, &Recovery::LookForLeftCopies);
 }
 
@@ -44,6 +48,15 @@ void Recovery::LookForLeftCopies()
     const std::vector<LeftCopy> left = FindLeftCopies(m_folder, m_host, QDateTime::currentDateTimeUtc());
     m_left.assign(left.begin(), left.end());
     OfferNext();
+}
+
+/// The latest comes first, as among those that were found.
+void Recovery::SetDatabaseAside()
+{
+    if (std::optional<LeftCopy> aside = m_keeper.SetAside(WorkKind::Database)) {
+        m_left.push_front(std::move(*aside));
+        OfferNext();
+    }
 }
 
 void Recovery::OfferNext()
@@ -74,7 +87,7 @@ void Recovery::OpenOffered()
     if (m_keeper.HasUnsaved(copy.kind)) {
         m_prompts.Notice(
             u"What is in memory is not saved yet. Save it first, or give it up, and then open what "
-            "was not saved the last time. It stays where it is."_s);
+            "was not saved before. It stays where it is."_s);
         return;
     }
     RecoveredWork work;
@@ -89,16 +102,18 @@ void Recovery::OpenOffered()
         return;
     }
     m_left.pop_front();
-    // Only when this run's own copy is on the disk, the one that was left may go.
-    if (m_keeper.KeepNow().ok) {
-        (void)RemoveLeftCopy(
-            copy); // one that cannot be removed is offered again: better twice than not at all
+    // Only when all of it is in this run's own copy, and that is on the disk, the one that was left may go.
+    // One that cannot be removed is offered again: better twice than not at all.
+    const bool isKept = m_keeper.HasUnsaved(copy.kind) && m_keeper.KeepNow().ok;
+    if (work.note && isKept) {
+        (void)RemoveLeftCopy(copy);
     }
     OfferNext();
     if (!work.note) {
         m_prompts.Notice(
-            u"The copy was damaged. What could be read of it is shown: look through it before you "
-            "save it."_s);
+            u"The copy was damaged. What could be read of it is shown: look through it before you save it."
+            "\n\nThe copy itself stays, and is offered again at the next start, until it is discarded: %1"_s
+                .arg(QDir::toNativeSeparators(copy.path)));
     }
 }
 

@@ -10,7 +10,7 @@
 class RecoveryOffer;
 
 /// Recovery of work that was not saved: keeps copies while the program runs, and lets the menu offer what
-/// runs that ended uncleanly left behind.
+/// runs that ended uncleanly left behind, and databases that an opened file took the place of.
 class Recovery : public QObject
 {
     Q_OBJECT
@@ -25,16 +25,19 @@ public:
              std::vector<KeptWork> works);
     ~Recovery() override;
 
-    /// Begins to keep copies, and looks for those that were left once the window is there.
+    /// Begins to keep copies, and looks for those that were left once the window is there. From now on a
+    /// database that is not saved is set aside, and offered, when a file takes its place.
     void Start(std::chrono::milliseconds pause = kPause);
 
-    /// The program ends cleanly: this run's copies go. Those of others that were not answered stay.
+    /// The program ends cleanly: this run's copies go. Those that were left or set aside and not answered
+    /// stay.
     void EndCleanly();
 
     [[nodiscard]] RecoveryKeeper& Keeper() { return m_keeper; }
 
 private:
     void LookForLeftCopies();
+    void SetDatabaseAside();
     void OfferNext();
     void OpenOffered();
     void DiscardOffered();

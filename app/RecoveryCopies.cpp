@@ -21,6 +21,7 @@
 #ifndef Q_OS_WIN
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -33,6 +34,12 @@ constexpr qsizetype kSumLength = 64; // SHA-256 in hexadecimal digits
 constexpr qint64 kSilentSeconds = 600;
 constexpr qint64 kSweptAfterSeconds = qint64{24} * 3600;
 constexpr QFile::Permissions kFolderOfOwner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+
+/// Names nobody else takes.
+QString NameOfARun()
+{
+    return QUuid::createUuid().toString(QUuid::Id128);
+}
 
 QString EndingOf(WorkKind kind)
 {
@@ -58,15 +65,51 @@ QByteArray NoteAsText(const RecoveryNote& note)
         .toJson(QJsonDocument::Compact);
 }
 
+/// A name without a folder, whatever was written there.
+QString NameAlone(const QString& written)
+{
+    const QString name = QFileInfo(written).fileName();
+    const bool isOne = name != u"."_s && name != u".."_s && !name.contains(QChar::Null);
+    return isOne ? name : QString();
+}
+
+QString FolderAlone(const QString& written)
+{
+    return QDir::isAbsolutePath(written) && !written.contains(QChar::Null) ? QDir::cleanPath(written)
+                                                                           : QString();
+}
+
+/// The check sum says that the note is whole and not who wrote it, so it names no file but one of its folder.
 RecoveryNote NoteFromText(const QByteArray& text)
 {
     const QJsonObject values = QJsonDocument::fromJson(text).object();
-    return {.fileName = values.value(u"file"_s).toString(),
-            .folder = values.value(u"folder"_s).toString(),
+    return {.fileName = NameAlone(values.value(u"file"_s).toString()),
+            .folder = FolderAlone(values.value(u"folder"_s).toString()),
             .title = values.value(u"title"_s).toString(),
-            .records = values.value(u"records"_s).toInt(),
+            .records = std::max(values.value(u"records"_s).toInt(), 0),
             .time = QDateTime::fromString(values.value(u"time"_s).toString(), Qt::ISODateWithMs),
             .host = values.value(u"host"_s).toString()};
+}
+
+/// What lies in a folder of another user is his to read and to change, and a link may lead to anything.
+Outcome CheckFolder(const QString& folder)
+{
+#ifdef Q_OS_WIN
+    const QFileInfo info(folder);
+    const bool isFolder = info.isDir() && !info.isSymbolicLink() && !info.isJunction();
+    const bool isOwn = true; // in the user's own folder for programs' data, which others cannot enter
+#else
+    struct stat info {};
+    if (lstat(QFile::encodeName(QDir::cleanPath(folder)).constData(), &info) != 0) {
+        return Outcome::Failure(qt_error_string(errno));
+    }
+    const bool isFolder = S_ISDIR(info.st_mode);
+    const bool isOwn = info.st_uid == geteuid();
+#endif
+    if (!isFolder) {
+        return Outcome::Failure(u"\"%1\" is in the place of the folder."_s.arg(folder));
+    }
+    return isOwn ? Outcome{} : Outcome::Failure(u"The folder \"%1\" is another user's."_s.arg(folder));
 }
 
 /// Makes the folder for the user alone, or makes an older one so.
@@ -79,6 +122,9 @@ Outcome MakeFolder(const QString& folder)
         if (!made && !QFileInfo::exists(folder)) { // another run may have made it meanwhile
             return Outcome::Failure(u"The folder \"%1\" cannot be made."_s.arg(folder));
         }
+    }
+    if (Outcome checked = CheckFolder(folder); !checked.ok) {
+        return checked;
     }
     constexpr QFile::Permissions kOfOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
                                              QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
@@ -216,7 +262,7 @@ void RemoveAll(const QFileInfoList& files)
 QString Shortened(const QString& name)
 {
     constexpr qsizetype kMost = 40;
-    const QString line = name.simplified(); // a file may hold a title of several lines
+    const QString line = name.left(10 * kMost).simplified(); // a file may hold a title of several lines
     return line.size() <= kMost ? line : line.left(kMost - 3) + u"..."_s;
 }
 
@@ -231,6 +277,12 @@ QString Amount(const LeftCopy& copy, const QLocale& locale)
 }
 
 } // namespace
+
+QString PathOfWork(const RecoveryNote& note)
+{
+    return note.folder.isEmpty() || note.fileName.isEmpty() ? QString()
+                                                            : QDir(note.folder).filePath(note.fileName);
+}
 
 QByteArray WithNote(const QByteArray& bytes, const RecoveryNote& note)
 {
@@ -248,11 +300,12 @@ RecoveredWork WithoutNote(const QByteArray& copy)
     const qsizetype mark = copy.lastIndexOf(kNoteMark);
     const qsizetype sumBegin = mark + kNoteMark.size();
     const qsizetype textBegin = sumBegin + kSumLength + 1;
-    if (mark < 0 || textBegin > copy.size() || !copy.endsWith("\r\n")) {
+    const qsizetype textEnd = copy.size() - 2;
+    if (mark < 0 || textBegin > textEnd || !copy.endsWith("\r\n")) {
         return {copy, std::nullopt};
     }
     const QByteArray bytes = copy.first(mark + 2);
-    const QByteArray text = copy.mid(textBegin).chopped(2);
+    const QByteArray text = copy.mid(textBegin, textEnd - textBegin);
     if (copy.mid(sumBegin, kSumLength + 1) != SumOf(bytes, text) + ' ') {
         return {copy, std::nullopt};
     }
@@ -272,7 +325,7 @@ QString UsualRecoveryFolder()
 }
 
 OwnRecoveryCopies::OwnRecoveryCopies(QString folder, QString host)
-    : m_folder(std::move(folder)), m_host(std::move(host)), m_run(QUuid::createUuid().toString(QUuid::Id128))
+    : m_folder(std::move(folder)), m_host(std::move(host)), m_run(NameOfARun())
 {}
 
 OwnRecoveryCopies::~OwnRecoveryCopies() = default;
@@ -287,9 +340,10 @@ Outcome OwnRecoveryCopies::MakeFolderAndLock()
     if (Outcome made = MakeFolder(m_folder); !made.ok) {
         return made;
     }
-    if (m_lock != nullptr) {
+    if (m_lock != nullptr && QFile::exists(m_lock->fileName())) {
         return {};
     }
+    m_lock.reset(); // before there is a new one, because it removes the file of that name
     auto lock = std::make_unique<QLockFile>(LockOf(m_folder, m_run));
     lock->setStaleLockTime(0);
     if (!lock->tryLock(0)) {
@@ -314,10 +368,34 @@ Outcome OwnRecoveryCopies::Remove(WorkKind kind)
     if (copy.exists() && !copy.remove()) {
         return Outcome::Failure(copy.errorString());
     }
+    FreeLockWithout(kind);
+    return {};
+}
+
+/// Once there is no copy of that kind, and none of the other either, the lock is of no use.
+void OwnRecoveryCopies::FreeLockWithout(WorkKind kind)
+{
     const WorkKind other = kind == WorkKind::Database ? WorkKind::Statement : WorkKind::Database;
     if (!QFile::exists(PathOf(other))) {
         m_lock.reset();
     }
+}
+
+bool OwnRecoveryCopies::AreThere(WorkKind kind) const
+{
+    return m_lock != nullptr && QFile::exists(m_lock->fileName()) && QFile::exists(PathOf(kind));
+}
+
+Outcome OwnRecoveryCopies::SetAside(WorkKind kind, LeftCopy& aside)
+{
+    const QString name = NameOfARun();
+    QFile copy(PathOf(kind));
+    const QString path = QDir(m_folder).filePath(name + EndingOf(kind));
+    if (!copy.rename(path)) {
+        return Outcome::Failure(copy.errorString());
+    }
+    aside = CopyIn(QFileInfo(path), name).value_or(LeftCopy{.path = path, .kind = kind});
+    FreeLockWithout(kind);
     return {};
 }
 
@@ -334,6 +412,9 @@ void OwnRecoveryCopies::Renew() const
 std::vector<LeftCopy> FindLeftCopies(const QString& folder, const QString& host, const QDateTime& now)
 {
     std::vector<LeftCopy> left;
+    if (!CheckFolder(folder).ok) {
+        return left;
+    }
     const QHash<QString, QFileInfoList> runs = FilesOfRuns(folder);
     for (auto run = runs.cbegin(); run != runs.cend(); ++run) {
         if (RunLives(folder, run.key(), run.value(), {host, now})) {
@@ -391,7 +472,7 @@ QString DescribeLeftCopy(const LeftCopy& copy, const QLocale& locale, const QStr
                                              : u"A new investment statement"_s);
     parts << Amount(copy, locale) << when;
     if (!copy.note->host.isEmpty() && copy.note->host != host) {
-        parts << u"made on "_s + copy.note->host;
+        parts << u"made on "_s + Shortened(copy.note->host);
     }
     if (!copy.note->title.isEmpty()) {
         parts << u'"' + Shortened(copy.note->title) + u'"';

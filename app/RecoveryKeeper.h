@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <functional>
 #include <vector>
 
 /// Keeps recovery copies of work that is not saved: looks every few seconds whether there is any that its
@@ -26,11 +27,18 @@ public:
     void Start(std::chrono::milliseconds pause);
 
     /// Copies at once all that is not saved, and waits for it.
-    /// @return success when every copy is on the disk.
+    /// @return success when every copy is on the disk, else the first failure; the others are tried too.
     [[nodiscard]] Outcome KeepNow();
 
     /// Whether there is work that is not saved.
     [[nodiscard]] bool HasUnsaved(WorkKind kind) const;
+
+    /// Brings the copy of work that is about to be replaced up to date and sets it aside: it is then one that
+    /// was left. Nothing when all of it is saved, or when that did not work, which is told as Failed.
+    [[nodiscard]] std::optional<LeftCopy> SetAside(WorkKind kind);
+
+    /// Whether the last copy of some work could not be kept.
+    [[nodiscard]] bool IsFailing() const;
 
     /// Ends the keeping and removes the copies: the program ends cleanly, and what is not saved now is given
     /// up. Without it the copies stay when the keeper goes.
@@ -39,7 +47,7 @@ public:
 Q_SIGNALS:
     /// A copy is on the disk.
     void Kept();
-    /// No copy could be kept. It is tried again after a while; told once until that works.
+    /// No copy of some work could be kept. It is tried again after a while; told once until that works.
     void Failed(const QString& reason);
 
 private:
@@ -47,21 +55,30 @@ private:
         KeptWork work;
         std::optional<quint64> kept{}; ///< what the copy on the disk holds; nothing when that is not known
         bool mayHaveCopy = false;
+        bool isFailing = false;
+        std::chrono::steady_clock::time_point notBefore{}; ///< after a failure
     };
+
+    /// Done on the writer's thread; gives what is to be done on this one when it is over.
+    using Job = std::function<std::function<void()>()>;
 
     void Look();
     void LookAt(std::size_t index, quint64 unsaved);
+    void SeeWhetherItIsThere(std::size_t index);
+    void Copy(std::size_t index, quint64 unsaved);
+    [[nodiscard]] Outcome CopyNow(std::size_t index, quint64 unsaved);
     void Written(std::size_t index, quint64 unsaved, const Outcome& written);
     void Give(Protected& item);
+    void Renew();
+    void Run(Job job);
+    void FinishWriting();
     [[nodiscard]] Outcome MakeCopy(const KeptWork& work, QByteArray& copy) const;
-    void TellFailure(const QString& reason);
+    void TellFailure(Protected& item, const QString& reason);
 
     OwnRecoveryCopies m_copies;
     std::vector<Protected> m_works;
     QTimer m_timer;
-    int m_writing = 0; ///< copies that are being written
-    bool m_failing = false;
-    std::chrono::steady_clock::time_point m_notBefore{}; ///< after a failure
+    int m_writing = 0; ///< jobs of the writer that are not over
     std::chrono::steady_clock::time_point m_renewed{};
     QThreadPool m_writer; ///< last, so that it is done before anything else goes
 };

@@ -30,9 +30,8 @@ RecoveryOffer::~RecoveryOffer() = default;
 void RecoveryOffer::Offer(const QString& description, int more)
 {
     m_description = description;
-    m_ui->OfferTitle->setText(more == 0
-                                  ? u"Not saved when the program last ended:"_s
-                                  : u"Not saved when the program last ended (and %1 more):"_s.arg(more));
+    m_ui->OfferTitle->setText(more == 0 ? u"This was not saved:"_s
+                                        : u"This was not saved (and %1 more):"_s.arg(more));
     m_ui->OfferText->setText(description);
     SetLiteralToolTip(*m_ui->OfferText, description);
     m_ui->OfferOpen->setAccessibleName(u"Open what was not saved: "_s + description);

@@ -8,7 +8,8 @@ namespace Ui {
 class RecoveryOffer;
 }
 
-/// A panel of the menu that offers what a program that ended uncleanly left: to open it, to discard it, or to
+/// A panel of the menu that offers work that was not saved, whether a program that ended uncleanly left it or
+/// another file took its place: to open it, to discard it, or to
 /// leave it for later. Discarding takes two presses of its button.
 class RecoveryOffer : public QFrame
 {

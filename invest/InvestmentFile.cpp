@@ -1,7 +1,6 @@
 #include "invest/InvestmentFile.h"
 
 #include "app/FieldReader.h"
-#include "app/FieldWriter.h"
 #include "app/TextPictures.h"
 #include "invest/InvestmentCalculation.h"
 
@@ -111,9 +110,9 @@ InvestmentReading ReadInvestmentFile(const QByteArray& bytes)
     return {std::move(statement), {}, isCalculated};
 }
 
-Outcome WriteInvestmentFile(const InvestmentStatement& statement, QByteArray& bytes)
+Outcome WriteInvestmentFile(const InvestmentStatement& statement, QByteArray& bytes, FileText fileText)
 {
-    FieldWriter writer;
+    FieldWriter writer(fileText);
     writer.Number(statement.rowCount);
     writer.EndLine();
     for (std::size_t row = 1; row < statement.rows.size(); ++row) {

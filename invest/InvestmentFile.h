@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/FieldWriter.h"
 #include "app/InvestmentStatement.h"
 #include "app/Outcome.h"
 
@@ -29,4 +30,6 @@ struct InvestmentReading {
 
 /// Writes the count and rows 1..111, the empty ones too: always 112 lines. On failure (a description with a
 /// line break, or with a character outside ISO 8859-1) the reason names the row and @p bytes is untouched.
-[[nodiscard]] Outcome WriteInvestmentFile(const InvestmentStatement& statement, QByteArray& bytes);
+/// @param fileText  UTF-8, which the reader knows, is for recovery copies: it has a place for every character
+[[nodiscard]] Outcome WriteInvestmentFile(const InvestmentStatement& statement, QByteArray& bytes,
+                                          FileText fileText = FileText::Iso8859);

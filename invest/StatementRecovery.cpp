@@ -19,10 +19,11 @@ KeptWork KeptStatement(const LGLOBAL& shared)
         // Typed over since they were counted, the rows may add up to more than a file may say it counted.
         const bool canBeCounted =
             TotalOf(shared.InvestmentRows, static_cast<int>(shared.InvestmentRowCount)).has_value();
-        return WriteInvestmentFile({.rows = shared.InvestmentRows,
-                                    .rowCount = canBeCounted ? shared.InvestmentRowCount : 0,
-                                    .total = {}},
-                                   bytes);
+        const InvestmentStatement statement{.rows = shared.InvestmentRows,
+                                            .rowCount = canBeCounted ? shared.InvestmentRowCount : 0,
+                                            .total = {}};
+        const Outcome written = WriteInvestmentFile(statement, bytes);
+        return written.ok ? written : WriteInvestmentFile(statement, bytes, FileText::Utf8);
     };
     return {.kind = WorkKind::Statement, .unsaved = unsaved, .write = write};
 }
@@ -35,6 +36,7 @@ InvestmentReading ReadRecoveredStatement(LGLOBAL& shared, const RecoveredWork& w
     }
     const RecoveryNote note = work.note.value_or(RecoveryNote{});
     shared.investmentFileName = note.fileName;
+    shared.statementPath = PathOfWork(note);
     shared.statementOnDisk = {.folder = note.folder, .fingerprint = 0};
     if (!note.folder.isEmpty()) {
         shared.dialogFolder = note.folder;

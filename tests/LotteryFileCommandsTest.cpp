@@ -153,6 +153,35 @@ TEST_F(LotteryFileCommands, AGoodFileReplacesTheDatabaseAndLeavesTheUnsavedChang
     EXPECT_EQ(prompts.fileDialogModes, (std::deque<qint16>{kOpenLotteryFile, kOpenLotteryFile}));
 }
 
+TEST_F(LotteryFileCommands, WhoWantsToKnowIsToldBeforeAnythingInMemoryChanges)
+{
+    const DrawDatabase before = shared.database;
+    int told = 0;
+    shared.beforeDatabaseGoes = [&] {
+        ++told;
+        EXPECT_EQ(Written(shared.database), Written(before));
+        EXPECT_EQ(shared.database.fileName, u"Before.Lto"_s);
+        EXPECT_EQ(shared.database.modified, 1);
+    };
+    prompts.files = {QString()};
+    LoadFile(shared, prompts);
+    EXPECT_EQ(told, 0) << "a cancel";
+
+    Place(Path(u"Good.Lto"_s), Written(MadeUpDatabase(6, 49, 3)));
+    Place(Path(u"Older.Lto"_s), kOlderFile);
+    Place(Path(u"Damaged.Lto"_s), "nothing of the kind");
+    prompts.expectedMessages = {kOldFormat, kNotFoundOrWrongFormat, kOldFormat, kNotFoundOrWrongFormat};
+    for (const QString& name : {u"Good.Lto"_s, u"Older.Lto"_s, u"Nowhere.Lto"_s, u"Damaged.Lto"_s}) {
+        told = 0;
+        shared.database = before;
+        shared.database.fileName = u"Before.Lto"_s;
+        shared.database.modified = 1;
+        OpenLotteryFile(shared, prompts, Path(name));
+        EXPECT_EQ(told, 1) << name.toStdString();
+        EXPECT_NE(shared.database.count, before.count);
+    }
+}
+
 TEST_F(LotteryFileCommands, TheBusyPointerStaysOnUntilTheEditorIsThere)
 {
     Place(Path(u"Mine.Lto"_s), Written(MadeUpDatabase(6, 49, 1)));

@@ -4,6 +4,7 @@
 #include "app/LotteryFile.h"
 #include "app/LotteryFileCommands.h"
 #include "app/SafeFile.h"
+#include "invest/StatementRecovery.h"
 #include "tests/CannedPrompts.h"
 #include "tests/StatePrinters.h"
 #include "tests/TestFiles.h"
@@ -100,6 +101,38 @@ TEST(RecoveryNote, ACopyWithAnyByteChangedHasNoNote)
     }
 }
 
+TEST(RecoveryNote, ACopyThatEndsWithinTheMarkOrTheSumHasNone)
+{
+    for (int length = 0; length < 70; ++length) {
+        const QByteArray copy = "1\r\nrecovery " + QByteArray(length, '0') + "\r\n";
+        const RecoveredWork work = WithoutNote(copy);
+        EXPECT_FALSE(work.note.has_value()) << length;
+        EXPECT_EQ(work.bytes, copy) << length;
+    }
+}
+
+TEST(RecoveryNote, NamesAFileOfItsFolderAndNoOther)
+{
+    const auto nameOf = [](const QString& written) {
+        return WithoutNote(WithNote("1\r\n", {.fileName = written})).note.value_or(ANote()).fileName;
+    };
+    EXPECT_EQ(nameOf(u"../x.Lto"_s), u"x.Lto"_s);
+    EXPECT_EQ(nameOf(u"/etc/x.Lto"_s), u"x.Lto"_s);
+    EXPECT_EQ(nameOf(u"a b.Lto"_s), u"a b.Lto"_s);
+    for (const QString& none : {QString(), u"."_s, u".."_s, u"../"_s, u"x/.."_s, u"x.Lto"_s + QChar::Null}) {
+        EXPECT_EQ(nameOf(none), QString()) << none.toStdString();
+    }
+    const auto folderOf = [](const QString& written) {
+        return WithoutNote(WithNote("1\r\n", {.folder = written})).note.value_or(ANote()).folder;
+    };
+    EXPECT_EQ(folderOf(u"/home/some one"_s), u"/home/some one"_s);
+    EXPECT_EQ(folderOf(u"/home/a/../b"_s), u"/home/b"_s);
+    for (const QString& none : {QString(), u"."_s, u"home"_s, u"../home"_s, u"/a"_s + QChar::Null}) {
+        EXPECT_EQ(folderOf(none), QString()) << none.toStdString();
+    }
+    EXPECT_EQ(WithoutNote(WithNote("1\r\n", {.records = -5})).note.value_or(ANote()).records, 0);
+}
+
 TEST(RecoveryFolder, IsInTheUsersStateFolder)
 {
 #if !defined(Q_OS_WIN) && !defined(Q_OS_MACOS)
@@ -155,6 +188,88 @@ TEST(OwnRecoveryCopies, AnOlderFolderThatIsOpenToOthersIsClosed)
     EXPECT_FALSE(QFile::permissions(folder) & (QFile::ReadOther | QFile::ExeOther | QFile::ExeGroup));
 }
 
+TEST(OwnRecoveryCopies, AFileInTheFoldersPlaceIsLeftAsItIsAndTold)
+{
+    const QTemporaryDir home;
+    const QString path = home.filePath(u"recovery"_s);
+    Place(path, "in the way");
+    const QFile::Permissions before = QFile::permissions(path);
+    OwnRecoveryCopies run(path, kHere);
+    const Outcome kept = run.Keep(WorkKind::Database, "1\r\n");
+    EXPECT_FALSE(kept.ok);
+    EXPECT_TRUE(kept.reason.contains(path)) << kept.reason.toStdString();
+    EXPECT_EQ(QFile::permissions(path), before);
+    EXPECT_EQ(BytesOf(path), "in the way");
+    EXPECT_TRUE(FindLeftCopies(path, kHere, Later(0)).empty());
+}
+
+#ifdef Q_OS_UNIX
+TEST(OwnRecoveryCopies, ALinkToAFolderIsNotFollowed)
+{
+    const QTemporaryDir home;
+    const QTemporaryDir elsewhere;
+    LeaveCopy(elsewhere.path(), WorkKind::Database, WithNote("1\r\n", ANote()));
+    const QStringList names = NamesIn(elsewhere.path());
+    ASSERT_EQ(chmod(QFile::encodeName(elsewhere.path()).constData(), 0755), 0);
+    const QString path = home.filePath(u"recovery"_s);
+    ASSERT_TRUE(QFile::link(elsewhere.path(), path));
+    for (const QString& folder : {path, path + u'/'}) {
+        OwnRecoveryCopies run(folder, kHere);
+        EXPECT_FALSE(run.Keep(WorkKind::Database, "1\r\n").ok);
+        EXPECT_TRUE(FindLeftCopies(folder, kHere, Later(0)).empty());
+    }
+    EXPECT_EQ(NamesIn(elsewhere.path()), names);
+    EXPECT_TRUE(QFile::permissions(elsewhere.path()) & QFile::ReadOther) << "as it was";
+}
+
+TEST(OwnRecoveryCopies, AnotherUsersFolderIsNotUsed)
+{
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "nobody else's folder can be made";
+    }
+    const QTemporaryDir home;
+    const QString folder = home.filePath(u"recovery"_s);
+    LeaveCopy(folder, WorkKind::Database, WithNote("1\r\n", ANote()));
+    const QByteArray name = QFile::encodeName(folder);
+    constexpr uid_t kNobody = 65534;
+    ASSERT_EQ(chown(name.constData(), kNobody, kNobody), 0);
+    ASSERT_EQ(chmod(name.constData(), 0777), 0);
+    const QStringList names = NamesIn(folder);
+    OwnRecoveryCopies run(folder, kHere);
+    const Outcome kept = run.Keep(WorkKind::Database, "1\r\n");
+    EXPECT_FALSE(kept.ok);
+    EXPECT_TRUE(kept.reason.contains(u"another user"_s)) << kept.reason.toStdString();
+    EXPECT_EQ(NamesIn(folder), names);
+    EXPECT_TRUE(QFile::permissions(folder) & QFile::WriteOther) << "as it was";
+    EXPECT_TRUE(FindLeftCopies(folder, kHere, Later(0)).empty());
+}
+#endif
+
+TEST(OwnRecoveryCopies, SetAsideTheyAreLeftOnesAndTheRunGoesOnWithoutThem)
+{
+    const QTemporaryDir folder;
+    OwnRecoveryCopies run(folder.path(), kHere);
+    LeftCopy aside;
+    EXPECT_FALSE(run.SetAside(WorkKind::Database, aside).ok) << "there is none";
+    ASSERT_TRUE(run.Keep(WorkKind::Database, WithNote("1\r\n", ANote())).ok);
+    ASSERT_TRUE(run.Keep(WorkKind::Statement, WithNote("2\r\n", ANote())).ok);
+    ASSERT_TRUE(run.SetAside(WorkKind::Database, aside).ok);
+    EXPECT_FALSE(run.AreThere(WorkKind::Database));
+    EXPECT_TRUE(run.AreThere(WorkKind::Statement));
+    std::vector<LeftCopy> left = LeftIn(folder);
+    ASSERT_EQ(left.size(), 1U);
+    EXPECT_EQ(left.at(0).path, aside.path);
+    EXPECT_TRUE(left.at(0).note == aside.note);
+    EXPECT_TRUE(aside.note == ANote());
+    EXPECT_EQ(aside.time, ANote().time);
+    ASSERT_TRUE(run.Keep(WorkKind::Database, WithNote("3\r\n", ANote())).ok);
+    ASSERT_TRUE(run.SetAside(WorkKind::Database, aside).ok);
+    EXPECT_EQ(LeftIn(folder).size(), 2U) << "each has a name of its own";
+    ASSERT_TRUE(run.Remove(WorkKind::Statement).ok);
+    EXPECT_TRUE(NamesIn(folder.path()).filter(u".lock"_s).isEmpty());
+    EXPECT_EQ(LeftIn(folder).size(), 2U);
+}
+
 TEST(OwnRecoveryCopies, RemovedTheyLeaveNothing)
 {
     const QTemporaryDir folder;
@@ -168,6 +283,20 @@ TEST(OwnRecoveryCopies, RemovedTheyLeaveNothing)
     ASSERT_TRUE(run.Keep(WorkKind::Database, "3\r\n").ok); // and go on
     EXPECT_TRUE(run.Remove(WorkKind::Database).ok);
     EXPECT_EQ(NamesIn(folder.path()), QStringList());
+}
+
+TEST(OwnRecoveryCopies, WrittenAgainIntoAFolderThatWasEmptiedTheyAreStillThisRuns)
+{
+    const QTemporaryDir home;
+    const QString folder = home.filePath(u"recovery"_s);
+    OwnRecoveryCopies run(folder, kHere);
+    ASSERT_TRUE(run.Keep(WorkKind::Database, "1\r\n").ok);
+    ASSERT_TRUE(QDir(folder).removeRecursively());
+    ASSERT_TRUE(run.Keep(WorkKind::Database, "2\r\n").ok);
+    EXPECT_EQ(NamesIn(folder), QStringList({run.Run() + u".Lto"_s, run.Run() + u".lock"_s}));
+    EXPECT_TRUE(FindLeftCopies(folder, kHere, Later(0)).empty()) << "another program would offer it";
+    EXPECT_TRUE(run.Remove(WorkKind::Database).ok);
+    EXPECT_EQ(NamesIn(folder), QStringList());
 }
 
 TEST(OwnRecoveryCopies, AFolderThatCannotBeMadeIsAFailureWithAReason)
@@ -510,6 +639,29 @@ TEST_F(KeptDatabaseTest, ComesBackExactlyAsUnsavedWorkUnderItsOwnName)
     EXPECT_TRUE(KeptDatabase(recovered).unsaved().has_value()) << "so that it is protected at once";
 }
 
+TEST_F(KeptDatabaseTest, ThePathShownIsThatOfItsOwnFileOrNone)
+{
+    QByteArray bytes = LotteryBytes(MadeUpDatabase(6, 49, 2));
+    m_shared.databasePath = u"/before/Test.Lto"_s;
+    m_shared.statementPath = u"/before/Mine.inv"_s;
+    ASSERT_TRUE(
+        TakeRecoveredDatabase(m_shared, {bytes, RecoveryNote{.fileName = u"Test.Lto"_s, .folder = u"/own"_s}})
+            .ok);
+    EXPECT_EQ(DatabaseFilePath(m_shared), u"/own/Test.Lto"_s);
+    ASSERT_TRUE(TakeRecoveredDatabase(m_shared, {bytes, RecoveryNote{.fileName = u"Test.Lto"_s}}).ok);
+    EXPECT_EQ(DatabaseFilePath(m_shared), u"Test.Lto"_s) << "no folder is known";
+    m_shared.databasePath = u"/before/Test.Lto"_s;
+    ASSERT_TRUE(TakeRecoveredDatabase(m_shared, {bytes, std::nullopt}).ok);
+    EXPECT_EQ(m_shared.databasePath, QString());
+
+    bytes = "0\r\n";
+    const RecoveryNote note{.fileName = u"Mine.inv"_s, .folder = u"/own"_s};
+    ASSERT_TRUE(ReadRecoveredStatement(m_shared, {bytes, note}).statement.has_value());
+    EXPECT_EQ(m_shared.statementPath, u"/own/Mine.inv"_s);
+    ASSERT_TRUE(ReadRecoveredStatement(m_shared, {bytes, std::nullopt}).statement.has_value());
+    EXPECT_EQ(m_shared.statementPath, QString());
+}
+
 TEST_F(KeptDatabaseTest, ATitleThatNoFileCanHoldComesBack)
 {
     for (const QString& title : {u"The \"big\" one"_s, u"\u20AC 5"_s, u"two\r\nlines"_s}) {
@@ -523,6 +675,68 @@ TEST_F(KeptDatabaseTest, ATitleThatNoFileCanHoldComesBack)
         untitled.database.title.clear();
         EXPECT_EQ(LotteryBytes(untitled.database), LotteryBytes(m_shared.database));
     }
+}
+
+TEST_F(KeptDatabaseTest, ATitleThatFillsTheLargestFileComesBackFromTheDisk)
+{
+    m_shared.database = MadeUpDatabase(6, 49, 2);
+    m_shared.database.title = QString(kLargestFile - 10000, u't');
+    QByteArray bytes;
+    RecoveryNote note;
+    ASSERT_TRUE(m_work.write(bytes, note).ok);
+    OwnRecoveryCopies run(m_folder.filePath(u"recovery"_s), kHere);
+    const Outcome kept = run.Keep(WorkKind::Database, WithNote(bytes, note));
+    ASSERT_TRUE(kept.ok) << kept.reason.toStdString();
+    LeftCopy aside;
+    ASSERT_TRUE(run.SetAside(WorkKind::Database, aside).ok);
+    RecoveredWork work;
+    ASSERT_TRUE(ReadLeftCopy(aside, work).ok);
+    LGLOBAL recovered;
+    ASSERT_TRUE(TakeRecoveredDatabase(recovered, work).ok);
+    EXPECT_TRUE(recovered.database.title == m_shared.database.title);
+    EXPECT_LT(DescribeLeftCopy(aside, QLocale::c(), kHere).size(), 200);
+}
+
+TEST_F(KeptDatabaseTest, WhateverItsFieldsHoldComesBackToTheLastCharacter)
+{
+    m_shared.database = MadeUpDatabase(6, 49, 2);
+    for (const QString& text : {u"\u20AC 5"_s, u"some day"_s, u"\U0001F340"_s, u"in \"quotes\""_s,
+                                u"\"quoted"_s, u"#1\"#"_s, u"7"_s}) {
+        m_shared.database.records.at(1).date = text;
+        m_shared.database.records.at(2).drawn.at(0) = text;
+        m_shared.database.drawDays.at(3).carried = text;
+        m_shared.database.drawDays.at(4).weekday = text;
+        const LGLOBAL recovered = Recovered();
+        EXPECT_EQ(CellText(recovered.database.records.at(1).date), text);
+        EXPECT_TRUE(recovered.database.records.at(2).drawn.at(0) == Cell(text)) << text.toStdString();
+        EXPECT_TRUE(recovered.database.drawDays.at(3).carried == Cell(text)) << text.toStdString();
+        EXPECT_TRUE(recovered.database.drawDays.at(4).weekday == Cell(text)) << text.toStdString();
+    }
+}
+
+TEST_F(KeptDatabaseTest, WhatFitsALotteryFileIsWrittenAsOne)
+{
+    m_shared.database = MadeUpDatabase(6, 49, 2);
+    QByteArray bytes;
+    RecoveryNote note;
+    ASSERT_TRUE(m_work.write(bytes, note).ok);
+    EXPECT_EQ(bytes, LotteryBytes(m_shared.database));
+}
+
+TEST(KeptStatementTest, ADescriptionThatNoFileCanHoldComesBack)
+{
+    LGLOBAL shared;
+    shared.InvestmentRows.at(1) = {.description = u"Tickets, 5 \u20AC"_s,
+                                   .amount = Currency::FromText(u"-12.5"_s)};
+    shared.InvestmentRowCount = 1;
+    QByteArray bytes;
+    RecoveryNote note;
+    const Outcome written = KeptStatement(shared).write(bytes, note);
+    ASSERT_TRUE(written.ok) << written.reason.toStdString();
+    LGLOBAL recovered;
+    const InvestmentReading reading = ReadRecoveredStatement(recovered, WithoutNote(WithNote(bytes, note)));
+    ASSERT_TRUE(reading.statement.has_value());
+    EXPECT_EQ(reading.statement->rows, shared.InvestmentRows);
 }
 
 TEST_F(KeptDatabaseTest, ADateThatIsNoneComesBackAsItWas)

@@ -11,9 +11,12 @@
 
 #include <QCloseEvent>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
 
 #include <algorithm>
+#include <array>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -87,6 +90,12 @@ protected:
         const QList<RecoveryOffer*> offers = m_window.findChildren<RecoveryOffer*>();
         return std::any_of(offers.cbegin(), offers.cend(),
                            [](const RecoveryOffer* offer) { return offer->isVisible(); });
+    }
+    /// A widget of the panel that was added last: a second program in the same window has one of its own.
+    template <typename Widget>
+    Widget& InLastOffer(const QString& name)
+    {
+        return In<Widget>(*m_window.findChildren<RecoveryOffer*>().last(), name);
     }
     [[nodiscard]] QByteArray StatementBytes() const
     {
@@ -266,6 +275,121 @@ TEST_F(Keeping, TroubleIsToldOnceInTheMenuAndNoDialogOpens)
     EXPECT_TRUE(Find<QLabel>(u"RecoveryTrouble"_s).isHidden()) << "it works again";
 }
 
+/// Two works that a test makes unsaved as it likes.
+class TwoWorks : public testing::Test
+{
+protected:
+    static constexpr auto kPause = 2ms;
+
+    KeptWork WorkOf(WorkKind kind, std::size_t index)
+    {
+        return {.kind = kind,
+                .unsaved = [this, index] { return m_unsaved.at(index)(); },
+                .write =
+                    [this, index](QByteArray& bytes, RecoveryNote&) {
+                        ++m_written.at(index);
+                        bytes = "1\r\n";
+                        return m_outcome.at(index);
+                    }};
+    }
+    static std::function<std::optional<quint64>()> Always(std::optional<quint64> unsaved)
+    {
+        return [unsaved] { return unsaved; };
+    }
+    [[nodiscard]] QStringList Names(const QString& ending) const
+    {
+        return NamesIn(m_copies).filter(QRegularExpression(u"\\."_s + ending + u'$'));
+    }
+    [[nodiscard]] bool WaitForKept(qsizetype databases, qsizetype statements) const
+    {
+        return QTest::qWaitFor([&] {
+            return Names(u"Lto"_s).size() == databases && Names(u"inv"_s).size() == statements &&
+                   Names(u"lock"_s).size() == (databases + statements > 0 ? 1 : 0);
+        });
+    }
+
+    /// Begins, and waits until the writer has done with both.
+    void KeepBoth()
+    {
+        QSignalSpy kept(&m_keeper, &RecoveryKeeper::Kept);
+        m_keeper.Start(kPause);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return kept.count() == 2; }));
+        ASSERT_TRUE(WaitForKept(1, 1));
+    }
+
+    QTemporaryDir m_folder;
+    QString m_copies = m_folder.filePath(u"recovery"_s);
+    std::array<std::function<std::optional<quint64>()>, 2> m_unsaved{Always(1), Always(1)};
+    std::array<Outcome, 2> m_outcome;
+    std::array<int, 2> m_written{};
+    RecoveryKeeper m_keeper{
+        m_copies, u"here"_s, {WorkOf(WorkKind::Database, 0), WorkOf(WorkKind::Statement, 1)}};
+};
+
+TEST_F(TwoWorks, NoCopyIsRemovedWhileAnotherIsBeingWritten)
+{
+    m_unsaved.at(0) = Always(std::nullopt);
+    m_keeper.Start(kPause);
+    ASSERT_TRUE(WaitForKept(0, 1));
+    // In the same look the first is no longer saved and the second is.
+    bool wasWritten = false;
+    m_unsaved.at(1) = [&]() -> std::optional<quint64> {
+        if (m_written.at(0) > 0 && !Names(u"inv"_s).isEmpty()) {
+            QTest::qSleep(50);
+            wasWritten = wasWritten || !Names(u"Lto"_s).isEmpty();
+        }
+        return std::nullopt;
+    };
+    m_unsaved.at(0) = Always(2);
+    ASSERT_TRUE(WaitForKept(1, 0)) << NamesIn(m_copies).join(u' ').toStdString();
+    QTest::qWait(20);
+    EXPECT_FALSE(wasWritten) << "the copy of the second was still to go";
+    EXPECT_EQ(Names(u"lock"_s).size(), 1);
+    EXPECT_TRUE(FindLeftCopies(m_copies, u"here"_s, QDateTime::currentDateTimeUtc()).empty());
+}
+
+TEST_F(TwoWorks, OneThatCannotBeWrittenDoesNotHoldUpTheOther)
+{
+    m_outcome.at(0) = Outcome::Failure(u"no place for it"_s);
+    QSignalSpy failed(&m_keeper, &RecoveryKeeper::Failed);
+    m_keeper.Start(kPause);
+    ASSERT_TRUE(WaitForKept(0, 1));
+    QTest::qWait(20);
+    EXPECT_EQ(m_written.at(0), 1) << "it is tried again after a while only";
+    m_unsaved.at(1) = Always(2);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_written.at(1) == 2; }));
+    EXPECT_EQ(failed.count(), 1);
+}
+
+TEST_F(TwoWorks, KeepNowTriesAllAndTellsTheFirstFailure)
+{
+    m_outcome.at(0) = Outcome::Failure(u"no place for it"_s);
+    const Outcome kept = m_keeper.KeepNow();
+    EXPECT_FALSE(kept.ok);
+    EXPECT_EQ(kept.reason, u"no place for it"_s);
+    EXPECT_EQ(Names(u"inv"_s).size(), 1);
+    m_outcome.at(1) = Outcome::Failure(u"another"_s);
+    EXPECT_EQ(m_keeper.KeepNow().reason, u"no place for it"_s);
+}
+
+TEST_F(TwoWorks, AFolderThatIsEmptiedIsFilledAgainWithItsLock)
+{
+    KeepBoth();
+    ASSERT_TRUE(QDir(m_copies).removeRecursively());
+    EXPECT_TRUE(WaitForKept(1, 1)) << "nothing has changed, but the copies are gone";
+    EXPECT_TRUE(FindLeftCopies(m_copies, u"here"_s, QDateTime::currentDateTimeUtc()).empty());
+}
+
+TEST_F(TwoWorks, ALockThatIsGoneComesBack)
+{
+    KeepBoth();
+    ASSERT_TRUE(QFile::remove(m_copies + u'/' + Names(u"lock"_s).value(0)));
+    EXPECT_TRUE(WaitForKept(1, 1));
+    EXPECT_TRUE(FindLeftCopies(m_copies, u"here"_s, QDateTime::currentDateTimeUtc()).empty());
+    m_keeper.EndCleanly();
+    EXPECT_EQ(NamesIn(m_copies), QStringList());
+}
+
 class Offering : public RecoveryBench
 {};
 
@@ -284,7 +408,7 @@ TEST_F(Offering, SaysWhatWasFoundAndEverythingFitsTheOpeningWindow)
     ASSERT_TRUE(IsOffering());
     EXPECT_EQ(FrontForm(), u"LotoMenu"_s);
     EXPECT_EQ(m_window.windowTitle(), u" Quillaby Menu"_s);
-    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"Not saved when the program last ended:"_s);
+    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"This was not saved:"_s);
     EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"Test.Lto, 12 records, "_s))
         << TextOf(u"OfferText"_s).toStdString();
     EXPECT_EQ(m_window.size(), QSize(641, 458));
@@ -443,7 +567,7 @@ TEST_F(Offering, SeveralAreOfferedOneAfterTheOtherTheLatestFirst)
     LeaveStatement(Rows({Item(u"Tickets"_s, u"-12"_s)}), 1);
     LeaveDatabase(MadeUpDatabase(5, 36, 13), u"Third.Lto"_s);
     Run();
-    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"Not saved when the program last ended (and 2 more):"_s);
+    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"This was not saved (and 2 more):"_s);
     EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"First.Lto"_s));
     Click(u"OfferOpen"_s);
     Settle();
@@ -453,7 +577,7 @@ TEST_F(Offering, SeveralAreOfferedOneAfterTheOtherTheLatestFirst)
     Click(u"OfferDiscard"_s);
     Click(u"OfferDiscard"_s);
     EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"Third.Lto"_s));
-    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"Not saved when the program last ended:"_s);
+    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"This was not saved:"_s);
     Click(u"OfferLater"_s);
     EXPECT_FALSE(IsOffering());
 }
@@ -468,6 +592,47 @@ TEST_F(Offering, ADamagedCopyGivesWhatCanBeReadAndSaysSo)
     EXPECT_EQ(m_shared.database.count, 12);
     ASSERT_EQ(m_prompts.notices.size(), 1);
     EXPECT_TRUE(m_prompts.notices.front().contains(u"damaged"_s));
+}
+
+TEST_F(Offering, ADamagedCopyStaysWithAllThatWasNotReadUntilItIsDiscarded)
+{
+    QByteArray damaged = WithNote(LotteryBytes(MadeUpDatabase(5, 36, 1200)), {});
+    damaged.replace(0, 4, "20"); // of 1,200 records the reader takes no more
+    LeaveCopy(WorkKind::Database, damaged);
+    const QString path = m_copies + u'/' + Names().filter(u".Lto"_s).value(0);
+    Run();
+    Click(u"OfferOpen"_s);
+    Settle();
+    EXPECT_EQ(m_shared.database.count, 20);
+    EXPECT_EQ(BytesOf(path), damaged);
+    EXPECT_TRUE(m_prompts.notices.value(0).contains(u"stays"_s)) << m_prompts.notices.value(0).toStdString();
+    EXPECT_FALSE(IsOffering()) << "not again in this run";
+    m_recovery.EndCleanly();
+    Click(u"DExit"_s);
+    Recovery next(m_shared, m_prompts, m_window, m_copies, {});
+    next.Start(kPause);
+    Settle();
+    EXPECT_TRUE(
+        InLastOffer<QLabel>(u"OfferText"_s).text().startsWith(u"A damaged copy of a lottery database, "_s));
+    InLastOffer<QPushButton>(u"OfferDiscard"_s).click();
+    InLastOffer<QPushButton>(u"OfferDiscard"_s).click();
+    EXPECT_EQ(Names(), QStringList());
+}
+
+TEST_F(Offering, ACopyOfWhichNothingIsUnsavedOnceItIsOpenStays)
+{
+    QByteArray damaged = WithNote(LotteryBytes(MadeUpDatabase(5, 36, 12)), {});
+    damaged.replace(0, 2, "0");
+    LeaveCopy(WorkKind::Database, damaged);
+    LeaveDatabase(MadeUpDatabase(5, 36, 0));
+    Run();
+    for (int copy = 0; copy < 2; ++copy) {
+        Click(u"OfferOpen"_s);
+        Settle();
+        EXPECT_EQ(m_shared.database.count, 0);
+        Click(u"DExit"_s);
+    }
+    EXPECT_EQ(Names().filter(u".Lto"_s).size(), 2) << "this run keeps none of its own";
 }
 
 TEST_F(Offering, ACopyThatNothingCanBeReadOfStaysAndSaysWhere)
@@ -527,6 +692,198 @@ TEST_F(Offering, OnlyWhenThisRunsOwnCopyIsOnTheDiskTheOldOneGoes)
     Settle();
     EXPECT_EQ(m_shared.database.count, 12);
     EXPECT_EQ(Names().filter(u".Lto"_s).size(), 1) << "still there for the next start";
+}
+
+/// Opening a file asks nothing, also when records are not saved.
+class SettingAside : public RecoveryBench
+{
+protected:
+    /// Opens from the menu and comes back to it.
+    void OpenAndComeBack(const QString& path)
+    {
+        m_prompts.files = {path};
+        Click(u"LoadFile"_s);
+        Settle();
+        EXPECT_EQ(FrontForm(), u"LDbase"_s);
+        EXPECT_TRUE(m_prompts.askedTexts.isEmpty());
+        EXPECT_TRUE(m_prompts.notices.isEmpty());
+        EXPECT_TRUE(m_prompts.expectedMessages.empty());
+        Click(u"DExit"_s);
+    }
+    QString Another()
+    {
+        QString path = m_folder.filePath(u"Another.Lto"_s);
+        Place(path, LotteryBytes(MadeUpDatabase(5, 36, 7)));
+        return path;
+    }
+    /// What the menu offers is what was in memory, to the last record.
+    void ExpectBack(const DrawDatabase& lost)
+    {
+        ASSERT_TRUE(IsOffering());
+        Click(u"OfferOpen"_s);
+        Settle();
+        EXPECT_EQ(FrontForm(), u"LDbase"_s);
+        EXPECT_EQ(LotteryBytes(m_shared.database), LotteryBytes(lost));
+        EXPECT_EQ(m_shared.database.fileName, lost.fileName);
+        EXPECT_EQ(m_shared.database.modified, 1);
+        Click(u"DExit"_s);
+        EXPECT_FALSE(IsOffering());
+        EXPECT_EQ(Names().filter(u".Lto"_s).size(), 1) << "this run's own";
+        EXPECT_TRUE(m_prompts.notices.isEmpty());
+    }
+    void FillUnsaved(const QString& fileName = u"Mine.Lto"_s)
+    {
+        FillDatabase(30);
+        m_shared.database.fileName = fileName;
+    }
+};
+
+TEST_F(SettingAside, AnotherFileOpenedOverRecordsThatAreNotSavedLosesNone)
+{
+    Run();
+    FillUnsaved();
+    const DrawDatabase lost = m_shared.database;
+    OpenAndComeBack(Another());
+    EXPECT_EQ(m_shared.database.count, 7) << "it was opened as ever";
+    EXPECT_EQ(m_shared.database.fileName, u"Another.Lto"_s);
+    ASSERT_TRUE(IsOffering());
+    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"This was not saved:"_s);
+    EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"Mine.Lto, 30 records, "_s))
+        << TextOf(u"OfferText"_s).toStdString();
+    ExpectBack(lost);
+}
+
+TEST_F(SettingAside, AFileThatIsMissingLosesNone)
+{
+    Run();
+    FillUnsaved();
+    ASSERT_TRUE(WaitForCopies(1));
+    const DrawDatabase lost = m_shared.database;
+    m_prompts.expectedMessages = {13};
+    OpenAndComeBack(m_folder.filePath(u"Nowhere.Lto"_s));
+    EXPECT_EQ(m_shared.database.count, 0);
+    ExpectBack(lost);
+}
+
+TEST_F(SettingAside, AFileThatIsDamagedLosesNone)
+{
+    Run();
+    FillUnsaved(QString());
+    const DrawDatabase lost = m_shared.database;
+    const QString damaged = m_folder.filePath(u"Damaged.Lto"_s);
+    Place(damaged, "12,7,36,\"Lotto");
+    m_prompts.expectedMessages = {16, 13};
+    OpenAndComeBack(damaged);
+    EXPECT_EQ(m_shared.database.count, 0);
+    EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"A new lottery database, 30 records, "_s));
+    ExpectBack(lost);
+}
+
+TEST_F(SettingAside, WhatChangedSinceTheLastCopyIsInItToo)
+{
+    Start();
+    m_recovery.Start(1h);
+    FillUnsaved();
+    ASSERT_TRUE(m_recovery.Keeper().KeepNow().ok);
+    m_shared.database.records.at(30).drawn.at(0) = 49;
+    const DrawDatabase lost = m_shared.database;
+    OpenAndComeBack(Another());
+    ExpectBack(lost);
+}
+
+TEST_F(SettingAside, WhereNothingIsUnsavedNothingIsOffered)
+{
+    Run();
+    const QString another = Another();
+    OpenAndComeBack(another); // over the empty database
+    OpenAndComeBack(another); // over one that is as its file, and was looked at in the editor
+    m_prompts.expectedMessages = {13};
+    OpenAndComeBack(m_folder.filePath(u"Nowhere.Lto"_s));
+    FillUnsaved();
+    m_prompts.files = {m_folder.filePath(u"Mine.Lto"_s)};
+    Click(u"SaveFile"_s);
+    OpenAndComeBack(another);
+    m_prompts.files = {QString()};
+    Click(u"LoadFile"_s); // a cancel, over a change
+    m_shared.database.title = u"x"_s;
+    Click(u"DExit"_s);
+    EXPECT_EQ(m_window.findChild<RecoveryOffer*>(), nullptr);
+    m_recovery.EndCleanly();
+    EXPECT_TRUE(!QDir(m_copies).exists() || Names().isEmpty());
+}
+
+TEST_F(SettingAside, ACleanEndLeavesItAndTheNextStartOffersIt)
+{
+    Run();
+    FillUnsaved();
+    const DrawDatabase lost = m_shared.database;
+    OpenAndComeBack(Another());
+    m_recovery.EndCleanly();
+    EXPECT_EQ(Names().size(), 1) << "and no lock";
+    Recovery next(m_shared, m_prompts, m_window, m_copies, {KeptDatabase(m_shared)});
+    next.Start(kPause);
+    Settle();
+    EXPECT_EQ(m_window.findChildren<RecoveryOffer*>().size(), 2) << "that of the run before, and its own";
+    EXPECT_TRUE(InLastOffer<QLabel>(u"OfferText"_s).text().startsWith(u"Mine.Lto, 30 records, "_s));
+    const std::vector<LeftCopy> left = FindLeftCopies(m_copies, Host(), QDateTime::currentDateTimeUtc());
+    ASSERT_EQ(left.size(), 1U);
+    RecoveredWork work;
+    ASSERT_TRUE(ReadLeftCopy(left.at(0), work).ok);
+    EXPECT_EQ(work.bytes, LotteryBytes(lost));
+}
+
+TEST_F(SettingAside, LaterKeepsItForTheNextStartAndDiscardGivesItUp)
+{
+    Run();
+    FillUnsaved();
+    OpenAndComeBack(Another());
+    Click(u"OfferLater"_s);
+    EXPECT_FALSE(IsOffering());
+    EXPECT_EQ(Names().size(), 1);
+    FillUnsaved(u"Second.Lto"_s);
+    OpenAndComeBack(Another());
+    EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"Second.Lto, "_s));
+    Click(u"OfferDiscard"_s);
+    Click(u"OfferDiscard"_s);
+    EXPECT_FALSE(IsOffering());
+    EXPECT_EQ(Names().size(), 1) << "that for later";
+}
+
+TEST_F(SettingAside, TheLatestIsOfferedBeforeWhatWasFoundAtTheStart)
+{
+    LeaveDatabase(MadeUpDatabase(5, 36, 12), u"Found.Lto"_s);
+    Run();
+    FillUnsaved();
+    OpenAndComeBack(Another());
+    EXPECT_EQ(TextOf(u"OfferTitle"_s), u"This was not saved (and 1 more):"_s);
+    EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"Mine.Lto, "_s));
+    Click(u"OfferLater"_s);
+    EXPECT_TRUE(TextOf(u"OfferText"_s).startsWith(u"Found.Lto, "_s));
+}
+
+TEST_F(SettingAside, WhereNoCopyCanBeKeptTheMenuSaysSoAndTheFileIsOpened)
+{
+    Place(m_folder.filePath(u"state"_s), "a file where the folder should be");
+    Start();
+    m_recovery.Start(1h);
+    FillUnsaved();
+    OpenAndComeBack(Another());
+    EXPECT_EQ(m_shared.database.count, 7);
+    EXPECT_FALSE(IsOffering());
+    EXPECT_TRUE(Find<QLabel>(u"RecoveryTrouble"_s).isVisible());
+    EXPECT_TRUE(TextOf(u"RecoveryTrouble"_s).contains(u"cannot be made"_s));
+}
+
+TEST_F(SettingAside, AFileNamedOutsideSetsAsideAsWell)
+{
+    Run();
+    FillUnsaved();
+    const DrawDatabase lost = m_shared.database;
+    m_window.OpenNamedFile(Another());
+    Settle();
+    EXPECT_EQ(m_shared.database.count, 7);
+    Click(u"DExit"_s);
+    ExpectBack(lost);
 }
 
 TEST_F(Offering, AFormThatHoldsNoWorkRefusesIt)

@@ -12,6 +12,7 @@ extern "C" {
 int FuzzEditorWalk(const unsigned char* data, std::size_t size);
 int FuzzInvestmentFile(const unsigned char* data, std::size_t size);
 int FuzzLotteryFile(const unsigned char* data, std::size_t size);
+int FuzzRecoveryCopy(const unsigned char* data, std::size_t size);
 int FuzzSettings(const unsigned char* data, std::size_t size);
 int FuzzText(const unsigned char* data, std::size_t size);
 }
@@ -37,6 +38,7 @@ INSTANTIATE_TEST_SUITE_P(Of, Seeds,
                          testing::Values(Fuzzer{"editor_walk", FuzzEditorWalk},
                                          Fuzzer{"investment_file", FuzzInvestmentFile},
                                          Fuzzer{"lottery_file", FuzzLotteryFile},
+                                         Fuzzer{"recovery_copy", FuzzRecoveryCopy},
                                          Fuzzer{"settings", FuzzSettings}, Fuzzer{"text", FuzzText}),
                          [](const auto& one) { return std::string(one.param.seeds); });
 
