@@ -12,7 +12,7 @@ QString ShownTitle(const DrawDatabase& database)
     return database.title.left(kLongest);
 }
 
-QString DatabaseFacts(const DrawDatabase& database, const QLocale& locale)
+QString DatabaseFacts(const DrawDatabase& database, const QLocale& locale, bool isSaved)
 {
     if (database.count < 1) {
         return {};
@@ -29,7 +29,7 @@ QString DatabaseFacts(const DrawDatabase& database, const QLocale& locale)
         draws += u", the last on "_s + ShortDate(*day, locale);
     }
     facts << draws;
-    if (database.modified != 0) {
+    if (!isSaved) {
         facts << u"not saved yet"_s;
     }
     return facts.join(u"  ·  "_s);

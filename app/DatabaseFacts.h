@@ -11,5 +11,8 @@
 [[nodiscard]] QString ShownTitle(const DrawDatabase& database);
 
 /// What the menu tells about the open database, in one line: its file, its shape, how many draws it holds,
-/// the day of the last one, and whether there are draws that no file has yet. "" without records.
-[[nodiscard]] QString DatabaseFacts(const DrawDatabase& database, const QLocale& locale);
+/// the day of the last one, and whether it is saved. "" without records.
+/// @param isSaved  as far as anything in it goes: the flag of the exit question says less, and outlives the
+/// opening of
+///                 another file
+[[nodiscard]] QString DatabaseFacts(const DrawDatabase& database, const QLocale& locale, bool isSaved);

@@ -39,6 +39,11 @@ KeptWork KeptDatabase(const LGLOBAL& shared)
             }};
 }
 
+bool DiffersFromItsFile(const LGLOBAL& shared)
+{
+    return shared.database.count > 0 && Fingerprint(shared.database) != shared.databaseOnDisk.fingerprint;
+}
+
 Outcome TakeRecoveredDatabase(LGLOBAL& shared, const RecoveredWork& work)
 {
     LotteryReading reading = ReadLotteryFile(work.bytes, LotteryLayout::Current, shared.locale);

@@ -1,6 +1,7 @@
 #include "app/LotoMenu.h"
 
 #include "app/DatabaseFacts.h"
+#include "app/DatabaseRecovery.h"
 #include "app/DatabaseReport.h"
 #include "app/LotteryFileCommands.h"
 #include "app/Printing.h"
@@ -166,7 +167,7 @@ void LotoMenu::ShowFileInMemory()
         SetLiteralToolTip(*m_ui->InfoLabel, ShownTitle(database));
     }
     m_ui->InfoLabel->setVisible(database.count != 0);
-    const QString facts = DatabaseFacts(database, Shared().locale);
+    const QString facts = DatabaseFacts(database, Shared().locale, !DiffersFromItsFile(Shared()));
     m_ui->Facts->setText(facts.isEmpty() ? HowToBegin() : facts);
     // Short lines stand as they are: to try how they might wrap would take a tenth of the start.
     const bool wraps = !facts.isEmpty();

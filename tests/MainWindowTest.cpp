@@ -442,6 +442,22 @@ TEST_F(MainWindow, NoTitleOfAFileMakesAFormWider)
     }
 }
 
+TEST_F(MainWindow, TheMenuSaysWhetherWhatIsOpenIsSavedAndNotWhatTheFlagSays)
+{
+    WriteFile(u"Named.Lto"_s, kTwoDraws);
+    Start();
+    m_shared.database.modified = 1; // left by records that were given up for this file
+    m_window.OpenNamedFile(m_folder.filePath(u"Named.Lto"_s));
+    Click(u"DExit"_s);
+    EXPECT_EQ(m_shared.database.modified, 1);
+    EXPECT_TRUE(TextOf(u"Facts"_s).startsWith(u"Named.Lto  "_s));
+    EXPECT_FALSE(TextOf(u"Facts"_s).contains(u"not saved yet"_s));
+    m_shared.database.records.at(1).drawn.at(0) = 1; // as a correction does, which sets no flag
+    m_shared.database.modified = 0;
+    m_window.ShowForm(FormName::LotoMenu);
+    EXPECT_TRUE(TextOf(u"Facts"_s).endsWith(u"not saved yet"_s));
+}
+
 TEST_F(MainWindow, AFileThatCannotBeOpenedLeavesNoCountsOfTheOneBefore)
 {
     FillDatabase(30);

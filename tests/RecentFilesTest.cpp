@@ -171,10 +171,9 @@ TEST(DatabaseFacts, SayFileShapeDrawsAndTheLastDay)
     database.fileName = u"Mine.Lto"_s;
     database.records.at(1200).date = QDate(2026, 11, 18);
     const QLocale english(QLocale::English, QLocale::UnitedStates);
-    EXPECT_EQ(DatabaseFacts(database, english),
+    EXPECT_EQ(DatabaseFacts(database, english, true),
               u"Mine.Lto  ·  6 of 49  ·  1,200 draws, the last on 11/18/2026"_s);
-    database.modified = 1;
-    EXPECT_TRUE(DatabaseFacts(database, english).endsWith(u"  ·  not saved yet"_s));
+    EXPECT_TRUE(DatabaseFacts(database, english, false).endsWith(u"  ·  not saved yet"_s));
 }
 
 TEST(DatabaseFacts, LeaveOutWhatIsNotKnown)
@@ -182,9 +181,9 @@ TEST(DatabaseFacts, LeaveOutWhatIsNotKnown)
     const QLocale english(QLocale::English, QLocale::UnitedStates);
     DrawDatabase database = MadeUpDatabase(1, 10, 1);
     database.records.at(1).date = u"some day"_s;
-    EXPECT_EQ(DatabaseFacts(database, english), u"1 of 10  ·  1 draw"_s);
+    EXPECT_EQ(DatabaseFacts(database, english, true), u"1 of 10  ·  1 draw"_s);
     database.count = 0;
-    EXPECT_EQ(DatabaseFacts(database, english), QString());
+    EXPECT_EQ(DatabaseFacts(database, english, true), QString());
 }
 
 } // namespace
