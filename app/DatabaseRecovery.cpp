@@ -41,7 +41,7 @@ KeptWork KeptDatabase(const LGLOBAL& shared)
 
 bool DiffersFromItsFile(const LGLOBAL& shared)
 {
-    return shared.database.count > 0 && Fingerprint(shared.database) != shared.databaseOnDisk.fingerprint;
+    return KeptDatabase(shared).unsaved().has_value();
 }
 
 Outcome TakeRecoveredDatabase(LGLOBAL& shared, const RecoveredWork& work)
